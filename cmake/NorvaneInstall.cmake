@@ -1,0 +1,64 @@
+# What `cmake --install` puts in place: the library, its public headers, and what find_package(NorvaneCore) and
+# pkg-config read.
+
+include(CMakePackageConfigHelpers)
+
+set(header_dir ${CMAKE_INSTALL_INCLUDEDIR}/norvane/core)
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/NorvaneCore)
+
+# Every other header is the library's own affair and may change from one version to the next.
+set(public_headers
+    NorvaneCoreExport.h
+    ui/docking/Dock.h
+    ui/docking/DockMainWindow.h
+    ui/docking/DockPlaceHolder.h
+    ui/docking/DockSplitter.h
+    ui/docking/DockTabBar.h
+    ui/docking/DockTitleBar.h
+    ui/docking/DockWindow.h
+    ui/docking/FloatingWindowRegistry.h
+    ui/docking/HoverWidget.h
+    ui/docking/LayoutInspector.h
+    ui/docking/SnappableWindow.h
+    ui/docking/TitleBarButton.h
+    ui/docking/WidgetUtils.h
+    ui/toolkit/Events.h)
+foreach(header IN LISTS public_headers)
+    get_filename_component(folder ${header} DIRECTORY)
+    install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${header_dir}/${folder})
+endforeach()
+
+# norvane_qt goes along because the library's interface is made of it.
+set_target_properties(norvane_qt PROPERTIES EXPORT_NAME qt)
+install(TARGETS core norvane_qt EXPORT NorvaneCoreTargets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(EXPORT NorvaneCoreTargets NAMESPACE Norvane:: DESTINATION ${package_dir})
+
+# find_dependency() says by itself whether the package is required.
+string(REPLACE " REQUIRED" "" NORVANE_QT_DEPENDENCY "${NORVANE_QT_PACKAGE}")
+configure_package_config_file(
+    ${PROJECT_SOURCE_DIR}/cmake/NorvaneCoreConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/NorvaneCoreConfig.cmake
+    INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(
+    ${PROJECT_BINARY_DIR}/NorvaneCoreConfigVersion.cmake
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/NorvaneCoreConfig.cmake
+    ${PROJECT_BINARY_DIR}/NorvaneCoreConfigVersion.cmake
+    DESTINATION ${package_dir})
+
+if(NORVANE_QT EQUAL 4)
+    set(NORVANE_QT_PKGCONFIG QtGui)
+else()
+    set(NORVANE_QT_PKGCONFIG Qt${NORVANE_QT}Widgets)
+endif()
+# Relative, so that the prefix given to `cmake --install` counts.
+file(RELATIVE_PATH NORVANE_PKGCONFIG_TO_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+configure_file(
+    ${PROJECT_SOURCE_DIR}/cmake/norvane-core.pc.in
+    ${PROJECT_BINARY_DIR}/norvane-core.pc
+    @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/norvane-core.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,20 @@
+# The library: its folders add their sources to this target.
+
+add_library(core SHARED)
+add_library(Norvane::core ALIAS core)
+set_target_properties(core PROPERTIES
+    OUTPUT_NAME norvane-core
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR})
+target_include_directories(core PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/norvane/core>)
+target_compile_definitions(core PRIVATE NORVANE_CORE_BUILD)
+target_link_libraries(core PUBLIC norvane_qt)
+norvane_warnings(core)
+
+# The same objects, for tests of classes that the shared library does not export.
+add_library(core_internals INTERFACE)
+target_include_directories(core_internals INTERFACE ${PROJECT_SOURCE_DIR})
+target_link_libraries(core_internals INTERFACE $<TARGET_OBJECTS:core> norvane_qt)
+add_dependencies(core_internals core)

@@ -1,0 +1,46 @@
+# norvane_add_test(tst_Name [INTERNAL] [SOURCES more.cpp...] [LABELS label...])
+#
+# Builds tst_Name.cpp and registers it with CTest. INTERNAL gives it the classes that the shared library keeps to
+# itself. A Qt warning that the test did not announce with QTest::ignoreMessage() is a failure.
+function(norvane_add_test name)
+    cmake_parse_arguments(TEST "INTERNAL" "" "SOURCES;LABELS" ${ARGN})
+    add_executable(${name} ${name}.cpp ${TEST_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    if(TEST_INTERNAL)
+        target_link_libraries(${name} PRIVATE core_internals)
+    else()
+        target_link_libraries(${name} PRIVATE Norvane::core)
+    endif()
+    target_link_libraries(${name} PRIVATE norvane_qt_test)
+    norvane_warnings(${name})
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES LABELS "${TEST_LABELS}")
+    norvane_test_environment(${name})
+endfunction()
+
+# Time limit, sanitizers and warnings for a registered test.
+#
+# QT_FATAL_WARNINGS would abort at announced warnings too, so warnings are found in the output: in the form that
+# QtTest gives them, and, outside of test functions, in that of QT_MESSAGE_PATTERN.
+function(norvane_test_environment name)
+    set(support ${PROJECT_SOURCE_DIR}/tests/support)
+    set(timeout 300)
+    if(NORVANE_SANITIZE)
+        set(timeout 600)
+    endif()
+    set(environment
+        "QT_MESSAGE_PATTERN=%{if-warning}Qt warning: %{endif}%{if-critical}Qt warning: %{endif}%{message}"
+        "XDG_RUNTIME_DIR=${NORVANE_TEST_RUNTIME_DIR}"
+        "ASAN_OPTIONS=detect_stack_use_after_return=1"
+        "LSAN_OPTIONS=suppressions=${support}/lsan.supp:print_suppressions=0"
+        "UBSAN_OPTIONS=print_stacktrace=1")
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${timeout}
+        ENVIRONMENT "${environment}"
+        FAIL_REGULAR_EXPRESSION "Qt warning: |QWARN  *:|QSYSTEM *:|QCRITICAL *:")
+endfunction()
+
+# Qt complains about a runtime directory that is not there or that others can read.
+set(NORVANE_TEST_RUNTIME_DIR ${PROJECT_BINARY_DIR}/tests/runtime)
+file(MAKE_DIRECTORY ${NORVANE_TEST_RUNTIME_DIR})
+file(CHMOD ${NORVANE_TEST_RUNTIME_DIR} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Norvane { namespace Host {
+
+/// What the user asked for on the command line.
+struct CommandLine {
+    QStringList pictures;
+    /// Empty: the file of the last quit.
+    QString layoutPath;
+    bool fresh = false;
+    bool dark = false;
+    bool help = false;
+    bool version = false;
+    /// A sentence about the first argument that makes no sense; empty if all do.
+    QString problem;
+
+    /// \a arguments begin with the program's name.
+    static CommandLine parse(const QStringList& arguments);
+    static QString helpText();
+};
+
+}} // namespace Norvane::Host

@@ -1,0 +1,182 @@
+// The menus of the main window and what the simple entries do.
+
+#include "Arrangements.h"
+#include "DisplayOptions.h"
+#include "HostWindow.h"
+#include "NotesPanel.h"
+#include "Palettes.h"
+
+#include <ui/docking/Dock.h>
+#include <ui/docking/WidgetUtils.h>
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+
+namespace Norvane { namespace Host {
+
+void HostWindow::buildMenus()
+{
+    buildFileMenu();
+    buildPanelsMenu();
+    buildArrangementMenu();
+    buildViewMenu();
+    QMenu* const help = menuBar()->addMenu(tr("&Help"));
+    addEntry(help, tr("&About"), SLOT(about()));
+}
+
+QAction* HostWindow::addEntry(QMenu* menu, const QString& text, const char* slot, const QString& shortcut)
+{
+    QAction* const action = menu->addAction(text);
+    action->setShortcut(QKeySequence(shortcut));
+    // Floating windows have no menu bar; the keys work there as well.
+    action->setShortcutContext(Qt::ApplicationShortcut);
+    if (slot)
+        connect(action, SIGNAL(triggered()), this, slot);
+    return action;
+}
+
+void HostWindow::buildFileMenu()
+{
+    QMenu* const menu = menuBar()->addMenu(tr("&File"));
+    addEntry(menu, tr("&Open Picture..."), SLOT(choosePictures()), tr("Ctrl+O"));
+    menu->addSeparator();
+    addEntry(menu, tr("Open &Layout..."), SLOT(chooseLayoutToOpen()), tr("Ctrl+Shift+O"));
+    addEntry(menu, tr("&Save Layout..."), SLOT(chooseLayoutToSave()), tr("Ctrl+S"));
+    menu->addSeparator();
+    addEntry(menu, tr("&Quit"), SLOT(close()), tr("Ctrl+Q"));
+}
+
+void HostWindow::buildPanelsMenu()
+{
+    QMenu* const menu = menuBar()->addMenu(tr("&Panels"));
+    addEntry(menu, tr("New &Viewer"), SLOT(newViewer()));
+    addEntry(menu, tr("New &Pictures"), SLOT(newPictures()));
+    addEntry(menu, tr("New &Notes"), SLOT(newNotes()));
+    menu->addSeparator();
+    m_notesMenu = menu->addMenu(tr("&Closed Notes"));
+    connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillNotesMenu()));
+    connect(m_notesMenu, SIGNAL(triggered(QAction*)), this, SLOT(reopenNotes(QAction*)));
+}
+
+void HostWindow::buildArrangementMenu()
+{
+    QMenu* const menu = menuBar()->addMenu(tr("&Arrangement"));
+    addEntry(menu, tr("&Single"), nullptr, tr("Ctrl+1"))->setData(int(kSingleArrangement));
+    addEntry(menu, tr("Side &by Side"), nullptr, tr("Ctrl+2"))->setData(int(kSideBySideArrangement));
+    addEntry(menu, tr("&Review"), nullptr, tr("Ctrl+3"))->setData(int(kReviewArrangement));
+    connect(menu, SIGNAL(triggered(QAction*)), this, SLOT(chooseArrangement(QAction*)));
+}
+
+void HostWindow::buildViewMenu()
+{
+    QMenu* const menu = menuBar()->addMenu(tr("&View"));
+    QActionGroup* const options = new QActionGroup(this);
+    options->setExclusive(false);
+    for (int i = 0; i < kDisplayOptionCount; ++i) {
+        const DisplayOption& option = kDisplayOptions[i];
+        QAction* const action = menu->addAction(QApplication::translate("DisplayOptions", option.text));
+        action->setCheckable(true);
+        action->setChecked((this->*option.isOn)());
+        action->setData(i);
+        options->addAction(action);
+    }
+    connect(options, SIGNAL(triggered(QAction*)), this, SLOT(changeOption(QAction*)));
+
+    menu->addSeparator();
+    QMenu* const palettes = menu->addMenu(tr("&Palette"));
+    QActionGroup* const looks = new QActionGroup(this);
+    const bool dark = QSettings().value(QLatin1String("Display/Dark")).toBool();
+    const QString names[] = {tr("&Light"), tr("&Dark")};
+    for (int isDark = 0; isDark < 2; ++isDark) {
+        QAction* const action = palettes->addAction(names[isDark]);
+        action->setCheckable(true);
+        action->setChecked(dark == bool(isDark));
+        action->setData(bool(isDark));
+        looks->addAction(action);
+    }
+    connect(looks, SIGNAL(triggered(QAction*)), this, SLOT(choosePalette(QAction*)));
+    m_fullScreenAction = addEntry(menu, tr("&Full Screen"), SLOT(toggleFullScreen()), tr("F11"));
+    m_fullScreenAction->setCheckable(true);
+
+    menu->addSeparator();
+    QAction* const focusActions[] = {nextDockAction(), prevDockAction(), nextTabAction(), prevTabAction()};
+    for (QAction* const action : focusActions) {
+        action->setShortcutContext(Qt::ApplicationShortcut);
+        menu->addAction(action);
+    }
+}
+
+void HostWindow::applyOptions()
+{
+    const QSettings settings;
+    for (const DisplayOption& option : kDisplayOptions) {
+        const bool on = settings.value(QLatin1String(option.key), option.isOnAtFirst).toBool();
+        if (on != (this->*option.isOn)())
+            (this->*option.setOn)(on);
+    }
+}
+
+void HostWindow::changeOption(QAction* action)
+{
+    const DisplayOption& option = kDisplayOptions[action->data().toInt()];
+    const bool on = action->isChecked();
+    (this->*option.setOn)(on);
+    QSettings().setValue(QLatin1String(option.key), on);
+    if (option.needsNewPanes)
+        rebuildPanes();
+    const QList<UI::Dock*> panes = docks();
+    for (UI::Dock* const pane : panes) {
+        pane->setTitleVisible(!hideSingleTabs() || pane->count() != 1);
+        pane->updateTabs();
+    }
+}
+
+void HostWindow::toggleFullScreen()
+{
+    UI::WidgetUtils::ToggleFullscreen(this);
+}
+
+void HostWindow::choosePalette(QAction* action)
+{
+    const bool dark = action->data().toBool();
+    QSettings().setValue(QLatin1String("Display/Dark"), dark);
+    Palettes::apply(dark);
+}
+
+void HostWindow::chooseArrangement(QAction* action)
+{
+    arrange(Arrangement(action->data().toInt()));
+}
+
+void HostWindow::fillNotesMenu()
+{
+    m_notesMenu->clear();
+    const QList<NotesPanel*> notes = m_panels.notes();
+    for (NotesPanel* const panel : notes) {
+        if (UI::Dock::dockForWidget(panel))
+            continue;
+        QString text = panel->summary();
+        m_notesMenu->addAction(text.replace(QLatin1Char('&'), QLatin1String("&&")))
+            ->setData(panel->objectName());
+    }
+    m_notesMenu->setEnabled(!m_notesMenu->isEmpty());
+}
+
+void HostWindow::about()
+{
+    QMessageBox::about(
+        this, tr("About norvane-host"),
+        tr("<h3>norvane-host %1</h3>"
+           "<p>A small media workstation, built to show how a program uses the panels, panes and "
+           "layouts of the library.</p>"
+           "<p>In a viewer the wheel zooms, dragging pans, and the keys +, -, 0 and F zoom in, zoom "
+           "out, show one to one and fit.</p>")
+            .arg(QApplication::applicationVersion()));
+}
+
+}} // namespace Norvane::Host

@@ -1,0 +1,138 @@
+#include "PictureList.h"
+
+#include "Pictures.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QPixmap>
+#include <QStyle>
+#include <QTimer>
+
+namespace Norvane { namespace Host {
+
+namespace {
+
+QPixmap emptyThumbnail()
+{
+    // Twice the size, for dense screens.
+    QPixmap thumbnail(PictureList::thumbnailSize() * 2);
+    thumbnail.fill(Qt::transparent);
+    return thumbnail;
+}
+
+QPixmap makeThumbnail(const QString& path)
+{
+    QPixmap thumbnail = emptyThumbnail();
+    QString problem;
+    const QImage picture = Pictures::read(path, thumbnail.size(), &problem);
+    // The picture is centred so that all names stand in line.
+    QRect place(QPoint(0, 0), thumbnail.size() / 3);
+    if (!picture.isNull()) {
+        QSize size = picture.size();
+        size.scale(thumbnail.size(), Qt::KeepAspectRatio);
+        place.setSize(size);
+    }
+    place.moveCenter(thumbnail.rect().center());
+    QPainter painter(&thumbnail);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (picture.isNull())
+        QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning).paint(&painter, place);
+    else
+        painter.drawImage(place, picture);
+    return thumbnail;
+}
+
+} // namespace
+
+PictureList::PictureList(QObject* parent)
+    : QAbstractListModel(parent)
+{
+}
+
+QStringList PictureList::paths() const
+{
+    QStringList paths;
+    for (const Entry& entry : m_entries)
+        paths.append(entry.path);
+    return paths;
+}
+
+void PictureList::addPicture(const QString& path)
+{
+    const QString canonical = Pictures::canonicalPath(path);
+    if (path.isEmpty() || rowOf(canonical) >= 0)
+        return;
+    const int row = rowCount();
+    beginInsertRows(QModelIndex(), row, row);
+    Entry entry;
+    entry.path = canonical;
+    // Views reserve the place.
+    entry.thumbnail = QIcon(emptyThumbnail());
+    m_entries.append(entry);
+    endInsertRows();
+    QTimer::singleShot(0, this, SLOT(makeNextThumbnail()));
+}
+
+void PictureList::removePicture(const QString& path)
+{
+    const int row = rowOf(path);
+    if (row < 0)
+        return;
+    beginRemoveRows(QModelIndex(), row, row);
+    m_entries.removeAt(row);
+    endRemoveRows();
+}
+
+QString PictureList::pathAt(const QModelIndex& index) const
+{
+    return index.isValid() ? m_entries[index.row()].path : QString();
+}
+
+int PictureList::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(m_entries.size());
+}
+
+QVariant PictureList::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return QVariant();
+    const Entry& entry = m_entries[index.row()];
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+        return Pictures::nameOf(entry.path);
+    case Qt::DecorationRole:
+        return entry.thumbnail;
+    case Qt::ToolTipRole:
+        return QDir::toNativeSeparators(entry.path);
+    default:
+        return QVariant();
+    }
+}
+
+QSize PictureList::thumbnailSize()
+{
+    return QSize(96, 72);
+}
+
+void PictureList::makeNextThumbnail()
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        Entry& entry = m_entries[row];
+        if (entry.hasThumbnail)
+            continue;
+        entry.hasThumbnail = true;
+        entry.thumbnail = QIcon(makeThumbnail(entry.path));
+        Q_EMIT dataChanged(index(row), index(row));
+        return;
+    }
+}
+
+int PictureList::rowOf(const QString& path) const
+{
+    return int(paths().indexOf(path));
+}
+
+}} // namespace Norvane::Host

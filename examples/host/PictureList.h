@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QIcon>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace Norvane { namespace Host {
+
+/// The pictures opened so far, each once, with thumbnails that are made one by one while the program is idle.
+class PictureList : public QAbstractListModel
+{
+    Q_OBJECT
+public:
+    explicit PictureList(QObject* parent = nullptr);
+
+    /// In the order in which they came.
+    QStringList paths() const;
+    void addPicture(const QString& path);
+    void removePicture(const QString& path);
+
+    QString pathAt(const QModelIndex& index) const;
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+    /// Thumbnails are shown at this size, on screens of any density.
+    static QSize thumbnailSize();
+
+private Q_SLOTS:
+    void makeNextThumbnail();
+
+private:
+    struct Entry {
+        QString path;
+        QIcon thumbnail;
+        bool hasThumbnail = false;
+    };
+    int rowOf(const QString& path) const;
+
+    QList<Entry> m_entries;
+};
+
+}} // namespace Norvane::Host

@@ -1,0 +1,252 @@
+#include "PictureView.h"
+
+#include <ui/toolkit/Events.h>
+#include <ui/toolkit/Painting.h>
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace Norvane { namespace Host {
+
+namespace {
+
+const qreal kSmallestZoom = 1 / 64.0;
+const qreal kLargestZoom = 64;
+const qreal kZoomStep = 1.25;
+const int kPanStep = 40;
+
+} // namespace
+
+PictureView::PictureView(QWidget* parent)
+    : QWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(tr("Picture"));
+}
+
+const QImage& PictureView::picture() const
+{
+    return m_picture;
+}
+
+void PictureView::setPicture(const QImage& picture)
+{
+    m_picture = picture;
+    m_levels.clear();
+    m_panning = false;
+    if (m_fitted)
+        m_center = QPointF(picture.width(), picture.height()) / 2;
+    viewHasChanged();
+}
+
+void PictureView::setMessage(const QString& title, const QString& detail)
+{
+    m_title = title;
+    m_detail = detail;
+    setAccessibleDescription(m_picture.isNull() ? title : QString());
+    update();
+}
+
+bool PictureView::isFitted() const
+{
+    return m_fitted;
+}
+
+qreal PictureView::zoom() const
+{
+    return m_fitted ? fitScale(m_picture.size(), size()) * UI::devicePixelRatio(this) : m_zoom;
+}
+
+QPointF PictureView::center() const
+{
+    return m_center;
+}
+
+void PictureView::setZoom(qreal zoom, const QPointF& center)
+{
+    m_fitted = false;
+    m_zoom = qBound(kSmallestZoom, zoom, kLargestZoom);
+    m_center = center;
+    viewHasChanged();
+}
+
+QSize PictureView::sizeHint() const
+{
+    return QSize(480, 320);
+}
+
+void PictureView::fitToView()
+{
+    m_fitted = true;
+    m_center = QPointF(m_picture.width(), m_picture.height()) / 2;
+    viewHasChanged();
+}
+
+void PictureView::showOneToOne()
+{
+    zoomAround(QRectF(rect()).center(), 1);
+}
+
+void PictureView::zoomIn()
+{
+    zoomAround(QRectF(rect()).center(), zoom() * kZoomStep);
+}
+
+void PictureView::zoomOut()
+{
+    zoomAround(QRectF(rect()).center(), zoom() / kZoomStep);
+}
+
+Placement PictureView::placement() const
+{
+    return placePicture(m_picture.size(), size(), zoom() / UI::devicePixelRatio(this), m_center);
+}
+
+void PictureView::zoomAround(const QPointF& viewPoint, qreal zoom)
+{
+    if (m_picture.isNull())
+        return;
+    const qreal bounded = qBound(kSmallestZoom, zoom, kLargestZoom);
+    const qreal scale = bounded / UI::devicePixelRatio(this);
+    const QPointF center = centerAfterZoom(placement(), size(), viewPoint, scale);
+    setZoom(bounded,
+            placePicture(m_picture.size(), size(), scale, center).toPicture(QRectF(rect()).center()));
+}
+
+void PictureView::pan(const QPointF& distance)
+{
+    if (m_picture.isNull() || m_fitted)
+        return;
+    const QPointF middle = QRectF(rect()).center();
+    const Placement before = placement();
+    const QPointF wanted = before.toPicture(middle - distance);
+    m_center = placePicture(m_picture.size(), size(), before.scale, wanted).toPicture(middle);
+    viewHasChanged();
+}
+
+void PictureView::viewHasChanged()
+{
+    updateCursor();
+    update();
+    Q_EMIT viewChanged();
+}
+
+void PictureView::resizeEvent(QResizeEvent*)
+{
+    viewHasChanged();
+}
+
+void PictureView::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        update();
+}
+
+void PictureView::wheelEvent(QWheelEvent* event)
+{
+    // Touch pads turn by fractions of a notch.
+    const qreal notches = UI::wheelDelta(event) / 120.0;
+    if (notches != 0)
+        zoomAround(UI::wheelPosition(event), zoom() * std::pow(kZoomStep, notches));
+    event->accept();
+}
+
+void PictureView::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        zoomIn();
+        break;
+    case Qt::Key_Minus:
+        zoomOut();
+        break;
+    case Qt::Key_0:
+        showOneToOne();
+        break;
+    case Qt::Key_F:
+        fitToView();
+        break;
+    case Qt::Key_Left:
+        pan(QPointF(kPanStep, 0));
+        break;
+    case Qt::Key_Right:
+        pan(QPointF(-kPanStep, 0));
+        break;
+    case Qt::Key_Up:
+        pan(QPointF(0, kPanStep));
+        break;
+    case Qt::Key_Down:
+        pan(QPointF(0, -kPanStep));
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void PictureView::mousePressEvent(QMouseEvent* event)
+{
+    if (m_picture.isNull() || (event->button() != Qt::LeftButton && event->button() != Qt::MiddleButton)) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    m_panning = true;
+    m_panPosition = UI::mousePosition(event);
+    updateCursor();
+}
+
+void PictureView::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint position = UI::mousePosition(event);
+    if (m_panning)
+        pan(position - m_panPosition);
+    m_panPosition = position;
+    reportPixel(position);
+}
+
+void PictureView::mouseReleaseEvent(QMouseEvent* event)
+{
+    m_panning = false;
+    updateCursor();
+    QWidget::mouseReleaseEvent(event);
+}
+
+void PictureView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (!m_picture.isNull())
+        mousePressEvent(event);
+    else if (event->button() == Qt::LeftButton)
+        Q_EMIT pictureWanted();
+}
+
+void PictureView::leaveEvent(QEvent*)
+{
+    Q_EMIT pixelLeft();
+}
+
+void PictureView::reportPixel(const QPointF& viewPoint)
+{
+    const QPointF point = placement().toPicture(viewPoint);
+    const QPoint pixel(int(std::floor(point.x())), int(std::floor(point.y())));
+    if (m_picture.rect().contains(pixel))
+        Q_EMIT pixelPointed(pixel);
+    else
+        Q_EMIT pixelLeft();
+}
+
+void PictureView::updateCursor()
+{
+    const QRectF shown = placement().rect(m_picture.size());
+    const bool larger = shown.width() > width() + 0.5 || shown.height() > height() + 0.5;
+    if (m_picture.isNull() || !larger)
+        unsetCursor();
+    else
+        setCursor(m_panning ? Qt::ClosedHandCursor : Qt::OpenHandCursor);
+}
+
+}} // namespace Norvane::Host

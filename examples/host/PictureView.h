@@ -1,0 +1,88 @@
+#pragma once
+
+#include "PictureGeometry.h"
+
+#include <QImage>
+#include <QList>
+#include <QString>
+#include <QWidget>
+
+namespace Norvane { namespace Host {
+
+/// Shows a picture, fitted or zoomed. The wheel zooms around the mouse, dragging and the arrow keys pan, and
+/// the keys +, -, 0 (one to one) and F (fit) zoom around the middle. Without a picture it shows a message.
+///
+/// A zoom of 1 shows every pixel of the picture as one physical pixel of the screen, whatever its density.
+class PictureView : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit PictureView(QWidget* parent = nullptr);
+
+    const QImage& picture() const;
+    /// Keeps zoom and centre, so that they may be set first.
+    void setPicture(const QImage& picture);
+
+    /// What to tell while there is no picture.
+    void setMessage(const QString& title, const QString& detail);
+
+    bool isFitted() const;
+    qreal zoom() const;
+    /// The picture point in the middle of the view.
+    QPointF center() const;
+    /// Also ends fitting.
+    void setZoom(qreal zoom, const QPointF& center);
+
+    QSize sizeHint() const override;
+
+public Q_SLOTS:
+    void fitToView();
+    void showOneToOne();
+    void zoomIn();
+    void zoomOut();
+
+Q_SIGNALS:
+    /// Zoom, centre or the kind of fitting changed.
+    void viewChanged();
+    /// The mouse is over the picture's pixel \a pixel.
+    void pixelPointed(const QPoint& pixel);
+    void pixelLeft();
+    /// The user double-clicked the message.
+    void pictureWanted();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    Placement placement() const;
+    void zoomAround(const QPointF& viewPoint, qreal zoom);
+    void pan(const QPointF& distance);
+    void viewHasChanged();
+    void reportPixel(const QPointF& viewPoint);
+    void updateCursor();
+    const QImage& levelFor(qreal zoom);
+    void paintPicture(QPainter& painter);
+    void paintMessage(QPainter& painter) const;
+
+    QImage m_picture;
+    /// The picture in the format that is painted fastest, then halved and halved again, as far as was needed.
+    QList<QImage> m_levels;
+    QString m_title;
+    QString m_detail;
+    bool m_fitted = true;
+    qreal m_zoom = 1;
+    QPointF m_center;
+    bool m_panning = false;
+    QPoint m_panPosition;
+};
+
+}} // namespace Norvane::Host

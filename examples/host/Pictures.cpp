@@ -1,0 +1,68 @@
+#include "Pictures.h"
+
+#include <ui/toolkit/Images.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QList>
+#include <QMimeData>
+#include <QUrl>
+
+namespace Norvane { namespace Host { namespace Pictures {
+
+QString nameOf(const QString& path)
+{
+    return QFileInfo(path).fileName();
+}
+
+QString canonicalPath(const QString& path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+QImage read(const QString& path, const QSize& largest, QString* problem)
+{
+    if (!QFileInfo(path).isFile()) {
+        *problem = QCoreApplication::translate("Pictures", "There is no such file.");
+        return QImage();
+    }
+    QImageReader reader(path);
+    UI::setAutoTransform(&reader);
+    // Files are what they hold, not what they are called.
+    reader.setDecideFormatFromContent(true);
+    QSize size = reader.size();
+    if (largest.isValid() && (size.width() > largest.width() || size.height() > largest.height())) {
+        size.scale(largest, Qt::KeepAspectRatio);
+        reader.setScaledSize(size.expandedTo(QSize(1, 1)));
+    }
+    const QImage picture = reader.read();
+    if (picture.isNull())
+        *problem = QCoreApplication::translate("Pictures", "The file is no picture that can be read.");
+    return picture;
+}
+
+QString fileFilter()
+{
+    QStringList patterns;
+    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    for (const QByteArray& format : formats)
+        patterns.append(QLatin1String("*.") + QString::fromLatin1(format));
+    return QCoreApplication::translate("Pictures", "Pictures (%1);;All files (*)")
+        .arg(patterns.join(QLatin1String(" ")));
+}
+
+QStringList draggedFiles(const QMimeData* data)
+{
+    QStringList paths;
+    const QList<QUrl> urls = data->urls();
+    for (const QUrl& url : urls) {
+        const QString path = url.toLocalFile();
+        if (QFileInfo(path).isFile())
+            paths.append(canonicalPath(path));
+    }
+    return paths;
+}
+
+}}} // namespace Norvane::Host::Pictures

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+#include <QStringList>
+
+class QMimeData;
+class QSize;
+
+/// Picture files.
+namespace Norvane { namespace Host { namespace Pictures {
+
+/// The part of \a path that people know a picture by.
+QString nameOf(const QString& path);
+
+/// The one spelling of \a path that pictures are compared by: absolute and without detours.
+QString canonicalPath(const QString& path);
+
+/// Reads the picture, turned as its camera was held; null, with a sentence in \a problem, if that fails. With
+/// a \a largest size the picture is shrunk to it while reading.
+QImage read(const QString& path, const QSize& largest, QString* problem);
+
+/// For a file dialog.
+QString fileFilter();
+
+/// The files that are dragged with \a data.
+QStringList draggedFiles(const QMimeData* data);
+
+}}} // namespace Norvane::Host::Pictures

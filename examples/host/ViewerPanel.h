@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+class QPoint;
+class QToolButton;
+
+namespace Norvane { namespace Host {
+
+class PictureView;
+class StatusLine;
+
+/// A panel that shows one picture, with a status line below it. Pictures may be dropped onto it. The picture
+/// is read when the panel is first to be seen. The layout state is a ViewerState. A picture that cannot be
+/// read leaves a message; its path is kept, so that a layout is not spoilt by a disk that is not there today.
+class ViewerPanel : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QString layoutState READ layoutState WRITE setLayoutState)
+public:
+    /// \a number tells viewers apart as long as they have no picture.
+    explicit ViewerPanel(int number, QWidget* parent = nullptr);
+
+    QString picturePath() const;
+    /// Fits the picture at \a path into the view.
+    void openPicture(const QString& path);
+
+    QString layoutState() const;
+    void setLayoutState(const QString& text);
+
+Q_SIGNALS:
+    /// There is another picture, or none; the window title has changed with it.
+    void pictureChanged();
+    /// The user wants to choose a picture for this panel.
+    void pictureWanted();
+    /// Pictures were dropped that have no place here: a viewer shows one.
+    void picturesDropped(const QStringList& paths);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private Q_SLOTS:
+    void showView();
+    void showPixel(const QPoint& pixel);
+    void clearPixel();
+
+private:
+    void setPicturePath(const QString& path);
+    void readPicture();
+    void updateTexts();
+
+    int m_number;
+    QString m_path;
+    bool m_isRead = false;
+    PictureView* m_view;
+    StatusLine* m_status;
+    QToolButton* m_fitButton;
+    QToolButton* m_oneToOneButton;
+};
+
+}} // namespace Norvane::Host

@@ -1,0 +1,196 @@
+#include <examples/host/NotesPanel.h>
+#include <examples/host/PanelRegistry.h>
+#include <examples/host/PictureList.h>
+#include <examples/host/ViewerPanel.h>
+#include <examples/host/ViewerState.h>
+
+#include <ui/toolkit/Painting.h>
+
+#include <QDir>
+#include <QImage>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace Norvane;
+using namespace Norvane::Host;
+
+class tst_HostPanels : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void viewerStateIsRead_data();
+    void viewerStateIsRead();
+    void viewerStateIsWrittenAsRead_data();
+    void viewerStateIsWrittenAsRead();
+    void viewerKeepsStateOfMissingPicture();
+    void viewerShowsPictureWhenSeen();
+    void notesKeepEveryCharacter_data();
+    void notesKeepEveryCharacter();
+    void replacedNotesAreReported();
+    void idsNamePanels_data();
+    void idsNamePanels();
+    void freeNumbersAreUsedAgain();
+    void closedNotesWithTextStay();
+};
+
+void tst_HostPanels::viewerStateIsRead_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("fitted");
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<QPointF>("center");
+    QTest::addColumn<QString>("path");
+    QTest::newRow("fitted") << "fit|/a/b.png" << true << 1.0 << QPointF() << "/a/b.png";
+    QTest::newRow("zoomed") << "1.5 20.25 -3|/a b" << false << 1.5 << QPointF(20.25, -3) << "/a b";
+    QTest::newRow("bar in path") << "fit|/a|b.png" << true << 1.0 << QPointF() << "/a|b.png";
+    QTest::newRow("only a path") << "/a/b.png" << true << 1.0 << QPointF() << "/a/b.png";
+    QTest::newRow("no number") << "big 1 2|/a" << true << 1.0 << QPointF() << "/a";
+    QTest::newRow("no zoom at all") << "0 1 2|/a" << true << 1.0 << QPointF() << "/a";
+    QTest::newRow("infinite") << "inf 1 2|/a" << true << 1.0 << QPointF() << "/a";
+    QTest::newRow("empty") << "" << true << 1.0 << QPointF() << "";
+}
+
+void tst_HostPanels::viewerStateIsRead()
+{
+    QFETCH(QString, text);
+    const ViewerState state = ViewerState::fromString(text);
+    QTEST(state.fitted, "fitted");
+    QTEST(state.zoom, "zoom");
+    QTEST(state.center, "center");
+    QTEST(state.path, "path");
+}
+
+void tst_HostPanels::viewerStateIsWrittenAsRead_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("fitted") << "fit|/a/b.png";
+    QTest::newRow("zoomed") << "0.125 1000.5 20|/a/b|c.png";
+    QTest::newRow("nothing") << "";
+}
+
+void tst_HostPanels::viewerStateIsWrittenAsRead()
+{
+    QFETCH(QString, text);
+    QCOMPARE(ViewerState::fromString(text).toString(), text);
+}
+
+void tst_HostPanels::viewerKeepsStateOfMissingPicture()
+{
+    const QString state = QLatin1String("2.5 40 30|/no/such/Picture.png");
+    ViewerPanel viewer(1);
+    viewer.setLayoutState(state);
+    QCOMPARE(viewer.windowTitle(), QString::fromLatin1("Picture.png"));
+    QCOMPARE(viewer.layoutState(), state);
+    viewer.show();
+    QCOMPARE(viewer.layoutState(), state);
+}
+
+void tst_HostPanels::viewerShowsPictureWhenSeen()
+{
+    const QString path = QDir::temp().filePath(
+        QString::fromLatin1("tst_HostPanels-%1.png").arg(QCoreApplication::applicationPid()));
+    QImage picture(40, 20, QImage::Format_RGB32);
+    picture.fill(qRgb(10, 20, 30));
+    QVERIFY(picture.save(path));
+    ViewerPanel viewer(1);
+    QSignalSpy changes(&viewer, SIGNAL(pictureChanged()));
+    viewer.openPicture(path);
+    QCOMPARE(int(changes.size()), 1);
+    viewer.resize(400, 300);
+    viewer.show();
+    QVERIFY(QFile::remove(path));
+    const QImage shown = UI::grabPixmap(&viewer).toImage();
+    QCOMPARE(shown.pixel(shown.width() / 2, shown.height() / 2 - 10), qRgb(10, 20, 30));
+}
+
+void tst_HostPanels::notesKeepEveryCharacter_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("lines") << "one\ntwo\n\n\nthree\n";
+    QTest::newRow("marks of XML") << "<a b=\"c\">&amp;</a>'";
+    QTest::newRow("tabs and spaces") << "\t  a  \t";
+    QTest::newRow("no-break space") << QString(QChar(0xa0)) + QLatin1String("x");
+    QTest::newRow("line separator") << QString(QLatin1Char('a')) + QChar(0x2028) + QLatin1Char('b');
+    QTest::newRow("right to left") << QString(QChar(0x5e9)) + QChar(0x5dc);
+    QTest::newRow("surrogates") << QString(QChar(0xd83d)) + QChar(0xde00);
+}
+
+void tst_HostPanels::notesKeepEveryCharacter()
+{
+    QFETCH(QString, text);
+    NotesPanel notes(1);
+    QVERIFY(notes.setProperty("layoutState", text));
+    QCOMPARE(notes.property("layoutState").toString(), text);
+}
+
+void tst_HostPanels::replacedNotesAreReported()
+{
+    NotesPanel notes(1);
+    QSignalSpy replaced(&notes, SIGNAL(textReplaced(QString)));
+    notes.setLayoutState(QLatin1String("first"));
+    notes.setLayoutState(QLatin1String("first"));
+    QCOMPARE(int(replaced.size()), 0);
+    notes.setLayoutState(QLatin1String("second"));
+    QCOMPARE(int(replaced.size()), 1);
+    QCOMPARE(replaced.first().first().toString(), QString::fromLatin1("first"));
+}
+
+void tst_HostPanels::idsNamePanels_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<bool>("isId");
+    QTest::newRow("viewer") << "Viewer.1" << true;
+    QTest::newRow("pictures") << "Pictures.12" << true;
+    QTest::newRow("notes") << "Notes.3" << true;
+    QTest::newRow("unknown kind") << "Scopes.1" << false;
+    QTest::newRow("no number") << "Viewer." << false;
+    QTest::newRow("number zero") << "Viewer.0" << false;
+    QTest::newRow("leading zero") << "Viewer.01" << false;
+    QTest::newRow("no dot") << "Viewer" << false;
+    QTest::newRow("empty") << "" << false;
+}
+
+void tst_HostPanels::idsNamePanels()
+{
+    QFETCH(QString, id);
+    QFETCH(bool, isId);
+    PictureList pictures;
+    PanelRegistry registry(&pictures);
+    QCOMPARE(registry.find(id), static_cast<QWidget*>(nullptr));
+    QWidget* const panel = registry.panel(id);
+    QCOMPARE(panel != nullptr, isId);
+    QCOMPARE(registry.panel(id), panel);
+    if (isId)
+        QCOMPARE(panel->objectName(), id);
+}
+
+void tst_HostPanels::freeNumbersAreUsedAgain()
+{
+    PictureList pictures;
+    PanelRegistry registry(&pictures);
+    QPointer<QWidget> first = registry.createPanel(PanelRegistry::ViewerKind);
+    registry.panel(QLatin1String("Viewer.3"));
+    QCOMPARE(registry.createPanel(PanelRegistry::ViewerKind)->objectName(), QString::fromLatin1("Viewer.2"));
+    QCOMPARE(registry.createPanel(PanelRegistry::ViewerKind)->objectName(), QString::fromLatin1("Viewer.4"));
+    delete first;
+    QCOMPARE(registry.createPanel(PanelRegistry::ViewerKind)->objectName(), QString::fromLatin1("Viewer.1"));
+}
+
+void tst_HostPanels::closedNotesWithTextStay()
+{
+    PictureList pictures;
+    PanelRegistry registry(&pictures);
+    registry.panel(QLatin1String("Viewer.1"));
+    registry.panel(QLatin1String("Notes.1"));
+    registry.panel(QLatin1String("Notes.2"))->setProperty("layoutState", QLatin1String("text"));
+    registry.panel(QLatin1String("Notes.3"))->show();
+    registry.deleteClosedPanels();
+    QVERIFY(!registry.find(QLatin1String("Viewer.1")));
+    QVERIFY(!registry.find(QLatin1String("Notes.1")));
+    QVERIFY(registry.find(QLatin1String("Notes.2")));
+    QVERIFY(registry.find(QLatin1String("Notes.3")));
+}
+
+QTEST_MAIN(tst_HostPanels)
+#include "tst_HostPanels.moc"

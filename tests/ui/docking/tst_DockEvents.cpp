@@ -1,0 +1,214 @@
+#include <ui/docking/Dock.h>
+
+#include <tests/support/Desk.h>
+#include <ui/docking/DockTitleBar.h>
+#include <ui/docking/TitleBarButton.h>
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QStackedWidget>
+#include <QToolBar>
+
+using namespace NorvaneTest;
+using Norvane::UI::TitleBarButton;
+
+/// What a pane does on events of its own: layout, the mouse, focus.
+class tst_DockEvents : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { QCursor::setPos(5, 5); }
+    void cleanup() { QCursor::setPos(5, 5); }
+    void buttonsFollowOptions_data();
+    void buttonsFollowOptions();
+    void hiddenTitleAndNarrowPaneHideButtons();
+    void nothingOverlapsInTitle_data();
+    void nothingOverlapsInTitle();
+    void toolBarLimitsSize();
+    void focusFollowsMouse_data();
+    void focusFollowsMouse();
+    void focusReturnsToWhereItWas();
+    void contextMenuPopsUp();
+};
+
+namespace {
+
+/// The titles of the buttons that a user can see: "Panel menu|Float the current tab|Close the current tab".
+QString visibleButtons(const Dock* dock)
+{
+    QStringList names;
+    for (const TitleBarButton* const button : dock->titleBar()->findChildren<TitleBarButton*>()) {
+        if (button->isVisible())
+            names.append(button->accessibleName());
+    }
+    return names.join(latin1("|"));
+}
+
+} // namespace
+
+void tst_DockEvents::buttonsFollowOptions_data()
+{
+    QTest::addColumn<bool>("menu");
+    QTest::addColumn<bool>("closable");
+    QTest::addColumn<QString>("buttons");
+    QTest::newRow("default") << true << false
+                             << latin1("Panel menu|Float the current tab|Close the current tab");
+    QTest::newRow("no menu") << false << false << latin1("Float the current tab|Close the current tab");
+    QTest::newRow("closable tabs") << true << true << latin1("Panel menu");
+    QTest::newRow("neither") << false << true << latin1("");
+}
+
+void tst_DockEvents::buttonsFollowOptions()
+{
+    QFETCH(bool, menu);
+    QFETCH(bool, closable);
+    Desk desk;
+    desk.window->setHasPanelMenu(menu);
+    desk.window->setTabsAreClosable(closable);
+    Dock* const dock = desk.pane("A B");
+    QVERIFY(desk.show());
+    QTEST(visibleButtons(dock), "buttons");
+    QCOMPARE(dock->tabBar()->tabsClosable(), closable);
+    for (TitleBarButton* const button : dock->titleBar()->findChildren<TitleBarButton*>()) {
+        if (button->accessibleName().startsWith(latin1("Close")))
+            button->click();
+    }
+    if (closable)
+        QVERIFY(QMetaObject::invokeMethod(dock->tabBar(), "tabCloseRequested", Q_ARG(int, 1)));
+    QCOMPARE(tabs(dock), latin1("*A"));
+}
+
+void tst_DockEvents::hiddenTitleAndNarrowPaneHideButtons()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A");
+    Dock* const wide = dock->split(Qt::Horizontal, false);
+    QVERIFY(desk.show());
+    const QString all = visibleButtons(dock);
+    dock->setTitleVisible(false);
+    QCOMPARE(visibleButtons(dock), latin1(""));
+    QCOMPARE(dock->titleBar()->geometry(), QRect(0, 0, dock->width(), 3));
+    QCOMPARE(dock->stack()->geometry(), dock->rect().adjusted(0, 3, 0, 0));
+    dock->setTitleVisible(true);
+    QCOMPARE(visibleButtons(dock), all);
+    desk.window->rootSplitter()->setSizes(QList<int>() << 30 << 1000);
+    QCOMPARE(visibleButtons(dock), latin1("Panel menu"));
+    desk.window->rootSplitter()->setSizes(QList<int>() << 1000 << 1000);
+    QCOMPARE(visibleButtons(dock), all);
+    QCOMPARE(visibleButtons(wide), all);
+}
+
+void tst_DockEvents::nothingOverlapsInTitle_data()
+{
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<int>("points");
+    QTest::newRow("left to right") << +Qt::LeftToRight << 0;
+    QTest::newRow("right to left") << +Qt::RightToLeft << 0;
+    QTest::newRow("large font") << +Qt::LeftToRight << 30;
+}
+
+void tst_DockEvents::nothingOverlapsInTitle()
+{
+    QFETCH(int, direction);
+    QFETCH(int, points);
+    Desk desk;
+    Dock* const dock = desk.pane("AAAAAAAAAAAAAAAAAA BBBBBBBBBBBBBBBBBBBBBBBB CCCCCCCCCCCCCCCCCCCCCCCCCC");
+    QVERIFY(desk.show());
+    dock->setLayoutDirection(static_cast<Qt::LayoutDirection>(direction));
+    if (points) {
+        QFont font = dock->font();
+        font.setPointSize(points);
+        dock->setFont(font);
+    }
+    QList<QWidget*> parts;
+    parts << dock->tabBar();
+    for (TitleBarButton* const button : dock->titleBar()->findChildren<TitleBarButton*>())
+        parts << button;
+    QCOMPARE(int(parts.size()), 4);
+    for (const QWidget* const part : parts) {
+        QVERIFY(dock->titleBar()->rect().contains(part->geometry()));
+        for (const QWidget* const other : parts)
+            QVERIFY(other == part || !other->geometry().intersects(part->geometry()));
+    }
+    const bool menuIsLeft = parts[1]->x() < parts[3]->x();
+    QCOMPARE(menuIsLeft, direction == Qt::LeftToRight);
+}
+
+void tst_DockEvents::toolBarLimitsSize()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A");
+    QToolBar toolBar;
+    toolBar.setMinimumSize(70, 20);
+    toolBar.setMaximumSize(300, 40);
+    dock->addWidget(&toolBar, false, false);
+    QCOMPARE(dock->minimumSize(), QSize(70, 20));
+    QVERIFY(dock->maximumWidth() < QWIDGETSIZE_MAX);
+    dock->removeWidget(&toolBar);
+    QCOMPARE(dock->minimumSize(), QSize(0, 0));
+    QCOMPARE(dock->maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+}
+
+void tst_DockEvents::focusFollowsMouse_data()
+{
+    QTest::addColumn<bool>("editing");
+    QTest::addColumn<QString>("panels");
+    QTest::addColumn<QString>("focus");
+    QTest::newRow("from another pane") << false << latin1("B C") << latin1("C");
+    QTest::newRow("from a line edit") << true << latin1("B C") << latin1("editor");
+    QTest::newRow("to an empty pane") << false << QString() << latin1("target");
+}
+
+void tst_DockEvents::focusFollowsMouse()
+{
+    QFETCH(bool, editing);
+    QFETCH(QString, panels);
+    Desk desk;
+    Dock* const dock = desk.pane("A");
+    QLineEdit editor(dock->widget(0));
+    editor.setObjectName(latin1("editor"));
+    Dock* const target = desk.pane(panels.toLatin1().constData());
+    target->setObjectName(latin1("target"));
+    QVERIFY(desk.show());
+    desk.window->rootSplitter()->setSizes(QList<int>() << 100 << 100);
+    (editing ? &editor : dock->widget(0))->setFocus();
+    QCursor::setPos(target->mapToGlobal(target->rect().center()));
+    WAIT_FOR(target->underMouse());
+    QCoreApplication::processEvents();
+    QTEST(QApplication::focusWidget()->objectName(), "focus");
+}
+
+void tst_DockEvents::focusReturnsToWhereItWas()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A");
+    QLineEdit editor(dock->widget(0));
+    Dock* const other = desk.pane("B");
+    QVERIFY(desk.show());
+    QCursor::setPos(dock->mapToGlobal(dock->rect().center()));
+    WAIT_FOR(dock->underMouse());
+    editor.setFocus();
+    QCursor::setPos(other->mapToGlobal(other->rect().center()));
+    WAIT_FOR(other->underMouse() && !dock->underMouse());
+    other->widget(0)->setFocus();
+    QCursor::setPos(dock->mapToGlobal(dock->rect().center()));
+    WAIT_FOR(QApplication::focusWidget() == &editor);
+}
+
+void tst_DockEvents::contextMenuPopsUp()
+{
+    Desk desk;
+    desk.pane("A");
+    Dock* const dock = desk.pane("B");
+    QVERIFY(desk.show());
+    const QPoint position = dock->widget(0)->mapToGlobal(QPoint(20, 20));
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(20, 20), position);
+    QCoreApplication::sendEvent(dock->widget(0), &event);
+    WAIT_FOR(dock->menu()->isVisible());
+    QCOMPARE(dock->menu()->pos(), position);
+    QCOMPARE(QApplication::focusWidget(), dock->widget(0));
+    dock->menu()->close();
+}
+
+QTEST_MAIN(tst_DockEvents)
+#include "tst_DockEvents.moc"

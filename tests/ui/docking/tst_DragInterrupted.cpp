@@ -1,0 +1,288 @@
+// A host does something to panels, panes and windows while the user drags a tab. Whatever the user does next,
+// nothing dangles, nobody keeps the mouse, no overlay is left, and the dragged panel is not lost.
+
+#include <tests/support/DockScene.h>
+
+#include <ui/docking/DockTitleBar.h>
+
+#include <QCursor>
+#include <QtTest>
+
+using namespace NorvaneTest;
+
+namespace {
+
+/// How far the drag of the tab F has come: the floating pane is its source, the right one the pane under the
+/// mouse.
+enum Stage { kPressed, kReordering, kTornOff, kOverPane, kStageCount };
+const char* const kStages[] = {"pressed", "reordering", "torn off", "over a pane"};
+
+enum Continuation { kRelease, kMoveAndRelease, kEscape, kNothing, kContinuationCount };
+const char* const kContinuations[] = {"released", "moved on", "Escape", "nothing"};
+
+struct Interruption {
+    const char* name;
+    void (*happen)(DockScene& scene, QWidget* panel);
+    /// Whether the user has lost the mouse afterwards.
+    bool endsDrag = false;
+};
+
+const Interruption kInterruptions[] = {
+    {"nothing", [](DockScene&, QWidget*) {}},
+    {"panel deleted", [](DockScene&, QWidget* panel) { delete panel; }},
+    {"panel deleted later", [](DockScene&, QWidget* panel) { panel->deleteLater(); }},
+    {"panel closed",
+     [](DockScene& scene, QWidget* panel) {
+         if (scene.floating->stack()->indexOf(panel) >= 0)
+             scene.floating->closeActiveTab();
+         else
+             panel->close();
+     }},
+    {"panel taken home", [](DockScene& scene, QWidget* panel) { panel->setParent(&scene.home); }},
+    {"panel put into another pane",
+     [](DockScene& scene, QWidget* panel) { scene.left->addWidget(panel, true, false); }},
+    {"panel put into its pane",
+     [](DockScene& scene, QWidget* panel) { scene.floating->addWidget(panel, true, false); }},
+    {"all tabs closed",
+     [](DockScene& scene, QWidget*) {
+         while (scene.floating->count() > 0)
+             scene.floating->closeTab(0);
+     }},
+    {"source closed", [](DockScene& scene, QWidget*) { scene.floating->close(); }, true},
+    {"source deleted", [](DockScene& scene, QWidget*) { delete scene.floating; }, true},
+    {"source hidden", [](DockScene& scene, QWidget*) { scene.floating->hide(); }, true},
+    {"source moved", [](DockScene& scene, QWidget*) { scene.mainWindow->addWidget(scene.floating); }},
+    {"source floated", [](DockScene& scene, QWidget*) { scene.floating->floatDock(); }},
+    {"source split", [](DockScene& scene, QWidget*) { scene.floating->split(Qt::Horizontal, true); }},
+    {"source's title hidden", [](DockScene& scene, QWidget*) { scene.floating->setTitleVisible(false); },
+     true},
+    {"source's window closed", [](DockScene& scene, QWidget*) { scene.floatingWindow->close(); }, true},
+    {"source's window deleted", [](DockScene& scene, QWidget*) { delete scene.floatingWindow; }, true},
+    {"target closed", [](DockScene& scene, QWidget*) { scene.right->close(); }},
+    {"target deleted", [](DockScene& scene, QWidget*) { delete scene.right; }},
+    {"target moved",
+     [](DockScene& scene, QWidget*) {
+         scene.mainWindow->createWindow()->addWidget(scene.right);
+         delete scene.right->window();
+     }},
+    {"overlay switched off",
+     [](DockScene& scene, QWidget*) { scene.mainWindow->setSplitPanelsByDragging(false); }},
+    {"main window closed", [](DockScene& scene, QWidget*) { scene.mainWindow->close(); }, true},
+    {"main window deleted", [](DockScene& scene, QWidget*) { delete scene.mainWindow; }, true},
+    {"first layout restored", [](DockScene& scene, QWidget*) { scene.restore(scene.firstLayout); }, true},
+    {"layout restored", [](DockScene& scene, QWidget*) { scene.restore(scene.save()); }, true},
+};
+
+void continueDrag(TabDrag& drag, Continuation continuation, const QPoint& position)
+{
+    switch (continuation) {
+    case kMoveAndRelease:
+        drag.moveTo(position + QPoint(9, 9));
+        drag.moveTo(position + QPoint(-300, 0));
+        drag.moveTo(position);
+        drag.release(position);
+        break;
+    case kRelease:
+        drag.release(position);
+        break;
+    case kEscape:
+        drag.pressEscape();
+        drag.release(position);
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace
+
+class tst_DragInterrupted : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { QCursor::setPos(5, 5); }
+    void cleanup() { QCursor::setPos(5, 5); }
+    void hostInterferes_data();
+    void hostInterferes();
+    void windowsDestroyedWithADragRunning_data();
+    void windowsDestroyedWithADragRunning();
+    void revealedTitleDoesNotHoldItsTabBack();
+    void sideIsForgottenWithItsDrag();
+    void paneOutsideAllSplittersTakesADrop();
+    void tabThatScrollsIsTheOneDragged();
+};
+
+void tst_DragInterrupted::hostInterferes_data()
+{
+    QTest::addColumn<int>("stage");
+    QTest::addColumn<int>("interruption");
+    for (int i = 0; i < int(sizeof kInterruptions / sizeof *kInterruptions); ++i) {
+        for (int stage = 0; stage < kStageCount; ++stage) {
+            const QByteArray name = QByteArray(kInterruptions[i].name) + ", " + kStages[stage];
+            QTest::newRow(name.constData()) << stage << i;
+        }
+    }
+}
+
+void tst_DragInterrupted::hostInterferes()
+{
+    QFETCH(int, stage);
+    QFETCH(int, interruption);
+    for (int i = 0; i < 2 * kContinuationCount; ++i) {
+        const Continuation continuation = Continuation(i / 2);
+        const bool deleteOnClose = i % 2;
+        DockScene scene(deleteOnClose);
+        scene.mainWindow->setSplitPanelsByDragging(true);
+        const QPointer<QWidget> panel(scene.panel("F"));
+        const QPoint target = DockScene::middle(scene.right);
+
+        TabDrag drag(scene.floating, 1);
+        if (stage == kReordering)
+            drag.slide(-45);
+        if (stage >= kTornOff)
+            drag.tearOff();
+        if (stage >= kOverPane)
+            drag.moveTo(target);
+        QCOMPARE(QWidget::mouseGrabber() != nullptr, stage >= kTornOff);
+        kInterruptions[interruption].happen(scene, panel);
+        if (i >= kContinuationCount || kInterruptions[interruption].endsDrag)
+            settle();
+        if (kInterruptions[interruption].endsDrag)
+            QVERIFY(!QWidget::mouseGrabber());
+        continueDrag(drag, continuation, stage == kPressed ? QPoint(900, 900) : target);
+
+        // Nobody ended this drag, so it may go on.
+        if (continuation == kNothing && QWidget::mouseGrabber())
+            continueDrag(drag, kEscape, target);
+        const QString problems = scene.problems();
+        const QString place =
+            latin1("then %1, panels %2: ")
+                .arg(latin1(kContinuations[continuation]), latin1(deleteOnClose ? "die" : "live"));
+        QVERIFY2(problems.isEmpty(), qPrintable(place + problems));
+    }
+}
+
+void tst_DragInterrupted::windowsDestroyedWithADragRunning_data()
+{
+    QTest::addColumn<bool>("closes");
+    QTest::addColumn<bool>("mainWindow");
+    QTest::addColumn<bool>("deleteOnClose");
+    for (int i = 0; i < 8; ++i) {
+        const QByteArray name = QByteArray(i & 1 ? "main window" : "floating window") +
+                                (i & 2 ? " closed" : " deleted") + (i & 4 ? ", panel dies on close" : "");
+        QTest::newRow(name.constData()) << bool(i & 2) << bool(i & 1) << bool(i & 4);
+    }
+}
+
+void tst_DragInterrupted::windowsDestroyedWithADragRunning()
+{
+    QFETCH(bool, closes);
+    QFETCH(bool, mainWindow);
+    QFETCH(bool, deleteOnClose);
+    DockScene scene(deleteOnClose);
+    scene.mainWindow->setSplitPanelsByDragging(true);
+    const QPointer<QWidget> panel(scene.panel("F"));
+    TabDrag drag(scene.floating, 1);
+    drag.tearOff();
+    drag.moveTo(DockScene::middle(scene.right));
+    QVERIFY(QWidget::mouseGrabber() && panel->isVisible());
+
+    const QPointer<QWidget> window(mainWindow ? scene.mainWindow.data() : scene.floatingWindow.data());
+    if (closes)
+        window->close();
+    else
+        delete window;
+    QCOMPARE(scene.problems(), QString());
+    QVERIFY(!window && !scene.floating);
+    QCOMPARE(panel.isNull(), deleteOnClose);
+    QVERIFY(!panel || (!panel->parentWidget() && !panel->isVisible() && panel->windowType() == Qt::Window));
+}
+
+void tst_DragInterrupted::revealedTitleDoesNotHoldItsTabBack()
+{
+    DockScene scene;
+    scene.mainWindow->setHideSingleTabs(true);
+    scene.floating->closeTab(0);
+    QVERIFY(!scene.floating->titleVisible());
+    QWidget* const titleBar = scene.floating->titleBar();
+    QVERIFY(waitUntil([&] {
+        // The window manager may still be moving the window.
+        if (!titleBar->underMouse())
+            QCursor::setPos(titleBar->mapToGlobal(QPoint(50, 1)));
+        return scene.floating->titleVisible();
+    }));
+
+    const QPoint target = DockScene::middle(scene.left);
+    TabDrag drag(scene.floating, 0);
+    drag.tearOff();
+    drag.moveTo(target);
+    QCursor::setPos(target);
+    WAIT_FOR(!titleBar->underMouse());
+    drag.release(target);
+    QCOMPARE(tabs(scene.left), latin1("A B C *F"));
+    QCOMPARE(scene.problems(), QString());
+    QVERIFY(!scene.floatingWindow);
+}
+
+void tst_DragInterrupted::sideIsForgottenWithItsDrag()
+{
+    DockScene scene;
+    scene.mainWindow->setSplitPanelsByDragging(true);
+    const QPoint border = scene.right->stack()->mapToGlobal(QPoint(3, 100));
+    TabDrag first(scene.left, 0);
+    first.moveTo(border);
+    first.moveTo(border);
+    first.pressEscape();
+    first.release(border);
+
+    TabDrag second(scene.left, 0);
+    second.moveTo(border);
+    second.release(DockScene::middle(scene.right));
+    QCOMPARE(tabs(scene.right), latin1("D *A"));
+    QCOMPARE(int(scene.mainWindow->docks().size()), 3);
+}
+
+void tst_DragInterrupted::paneOutsideAllSplittersTakesADrop()
+{
+    DockScene scene;
+    scene.mainWindow->setSplitPanelsByDragging(true);
+    const QPointer<Dock> statusPane(new Dock(scene.mainWindow));
+    statusPane->setParent(scene.mainWindow);
+    statusPane->setGeometry(100, 100, 200, 150);
+    statusPane->show();
+    const QPoint border = statusPane->stack()->mapToGlobal(QPoint(3, 60));
+    TabDrag drag(scene.left, 0);
+    drag.moveTo(border);
+    drag.moveTo(border);
+    drag.release(border);
+    QCOMPARE(tabs(statusPane), latin1("*A"));
+    delete statusPane;
+    QCOMPARE(scene.problems(), QString());
+}
+
+void tst_DragInterrupted::tabThatScrollsIsTheOneDragged()
+{
+    DockScene scene;
+    QTabBar* const bar = scene.left->tabBar();
+    for (int i = 0; i < scene.left->count(); ++i)
+        scene.left->widget(i)->setWindowTitle(latin1("A long title"));
+    scene.left->updateTitles();
+    // Room for about one tab and a half besides the buttons.
+    scene.left->setFixedWidth(bar->tabRect(0).width() * 2 + 60);
+    settle();
+    scene.left->setCurrentTab(2);
+
+    // The end of a tab that is half scrolled away; the press brings all of it into sight.
+    const QPoint edge(3, bar->height() / 2);
+    const int tab = bar->tabAt(edge);
+    QVERIFY(tab >= 0 && bar->tabRect(tab).left() < 0);
+    QWidget* const panel = scene.left->widget(tab);
+    TabDrag drag(scene.left, edge);
+    drag.tearOff();
+    QVERIFY(!Dock::dockForWidget(panel));
+    drag.pressEscape();
+    QCOMPARE(scene.left->widget(tab), panel);
+}
+
+QTEST_MAIN(tst_DragInterrupted)
+#include "tst_DragInterrupted.moc"

@@ -1,0 +1,249 @@
+#include <tests/support/Desk.h>
+#include <ui/docking/DockPlaceHolder.h>
+#include <ui/toolkit/Screens.h>
+
+using namespace NorvaneTest;
+using Norvane::UI::DockPlaceHolder;
+namespace Screens = Norvane::UI::Screens;
+
+class tst_LayoutWriter : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { QCursor::setPos(5, 5); }
+    void documentIsExact();
+    void chainIsCollapsed();
+    void sizesAreThoseOfUser();
+    void focusIsMarked_data();
+    void focusIsMarked();
+    void sameBytesAfterRestoring_data();
+    void sameBytesAfterRestoring();
+    void stateSurvives_data();
+    void stateSurvives();
+    void unwritableDeviceIsLeftAlone();
+};
+
+namespace {
+
+/// A desk whose restored pages are placeholders, which keep the state of their panels.
+class BareDesk : public Desk
+{
+    QWidget* page(QString& id) override { return window->DockMainWindow::createPage(id); }
+};
+
+QString number(int value)
+{
+    return QString::number(value);
+}
+
+/// "x=... y=... w=... h=..." of \a window's frame.
+QString frame(const QWidget* window)
+{
+    return latin1("x=\"%1\" y=\"%2\" w=\"%3\" h=\"%4\"")
+        .arg(window->x())
+        .arg(window->y())
+        .arg(window->frameSize().width())
+        .arg(window->frameSize().height());
+}
+
+} // namespace
+
+void tst_LayoutWriter::documentIsExact()
+{
+    Desk desk;
+    Dock* const left = desk.pane("Properties.1 Scopes.1");
+    Dock* const top = desk.fill(left->split(Qt::Horizontal, false), "Viewer.1");
+    Dock* const bottom = top->split(Qt::Vertical, false);
+    desk.floatingPane("Curves & more");
+    left->setObjectName(latin1("pane1"));
+    left->widget(1)->setProperty("layoutState", 42);
+    left->setCurrentTab(0);
+    top->setObjectName(latin1("pane2"));
+    top->setTitleVisible(false);
+    QVERIFY(desk.show());
+    DockSplitter* const root = desk.window->rootSplitter();
+    root->setStretchFactor(1, 3);
+    root->setSizes(QList<int>() << 200 << 400);
+    const QList<int> inner = qobject_cast<DockSplitter*>(root->widget(1))->sizes();
+    const QWidget* const floating = desk.window->floatingWindows().first();
+
+    const QStringList lines =
+        QStringList()
+        << latin1("<?xml version=\"1.0\" encoding=\"UTF-8\"?>") << latin1("<layout version=\"1.0\">")
+        << latin1("    <window ") + frame(desk.window) + latin1(" screen=\"0\">")
+        << latin1("        <splitter orientation=\"1\">")
+        << latin1("            <split size=\"") + number(root->sizes()[0]) + latin1("\"/>")
+        << latin1("            <dock id=\"pane1\" activePageId=\"Properties.1\" focus=\"true\">")
+        << latin1("                <page id=\"Properties.1\"/>")
+        << latin1("                <page id=\"Scopes.1\" layout=\"42\"/>") << latin1("            </dock>")
+        << latin1("            <split size=\"") + number(root->sizes()[1]) + latin1("\" stretch=\"3\"/>")
+        << latin1("            <splitter orientation=\"2\">")
+        << latin1("                <split size=\"") + number(inner[0]) + latin1("\"/>")
+        << latin1("                <dock id=\"pane2\" hideTitles=\"1\" activePageId=\"Viewer.1\">")
+        << latin1("                    <page id=\"Viewer.1\"/>") << latin1("                </dock>")
+        << latin1("                <split size=\"") + number(inner[1]) + latin1("\"/>")
+        << latin1("                <dock id=\"\"/>") << latin1("            </splitter>")
+        << latin1("        </splitter>") << latin1("    </window>")
+        << latin1("    <window ") + frame(floating) + latin1(" screen=\"0\">")
+        << latin1("        <splitter orientation=\"2\">")
+        << latin1("            <split size=\"") + number(floating->height()) + latin1("\"/>")
+        << latin1("            <dock id=\"\" activePageId=\"Curves &amp; more\">")
+        << latin1("                <page id=\"Curves &amp; more\"/>") << latin1("            </dock>")
+        << latin1("        </splitter>") << latin1("    </window>") << latin1("</layout>") << QString();
+    QVERIFY(bottom->isVisible());
+    QCOMPARE(QString::fromUtf8(desk.save(left->widget(0))).split(QLatin1Char('\n')), lines);
+}
+
+void tst_LayoutWriter::chainIsCollapsed()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A");
+    DockSplitter* const outer = new DockSplitter(Qt::Horizontal);
+    DockSplitter* const inner = new DockSplitter(Qt::Horizontal);
+    outer->addWidget(inner);
+    inner->addWidget(dock);
+    desk.window->rootSplitter()->addWidget(outer);
+    QCOMPARE(desk.trees(), latin1("V(H(H(*A)))"));
+    QVERIFY(desk.restore(desk.save()));
+    QCOMPARE(desk.trees(), latin1("H(*A)"));
+}
+
+void tst_LayoutWriter::sizesAreThoseOfUser()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A");
+    dock->split(Qt::Vertical, false);
+    QVERIFY(desk.show());
+    const QByteArray document = desk.save();
+    dock->setExpanded(true);
+    QCOMPARE(desk.save(), document);
+}
+
+void tst_LayoutWriter::focusIsMarked_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QString>("focus");
+    QTest::addColumn<QString>("marked");
+    QTest::newRow("keyboard focus") << QString() << latin1("B") << latin1("B");
+    QTest::newRow("argument") << latin1("A") << latin1("B") << latin1("A");
+    QTest::newRow("argument in no pane") << latin1("outside") << latin1("B") << QString();
+    QTest::newRow("pane without page") << latin1("empty") << latin1("B") << QString();
+    QTest::newRow("no focus") << QString() << QString() << QString();
+}
+
+void tst_LayoutWriter::focusIsMarked()
+{
+    QFETCH(QString, argument);
+    QFETCH(QString, focus);
+    QFETCH(QString, marked);
+    Desk desk;
+    desk.pane("A");
+    desk.pane("B");
+    QWidget insideEmpty(desk.pane(""));
+    insideEmpty.setObjectName(latin1("empty"));
+    QWidget outside(desk.window);
+    outside.setObjectName(latin1("outside"));
+    QVERIFY(desk.show());
+    if (QApplication::focusWidget())
+        QApplication::focusWidget()->clearFocus();
+    if (!focus.isEmpty())
+        desk.window->findChild<QWidget*>(focus)->setFocus();
+    QWidget* const given = argument.isEmpty() ? nullptr : desk.window->findChild<QWidget*>(argument);
+    const QByteArray document = desk.save(given);
+    QCOMPARE(document.count("focus="), marked.isEmpty() ? 0 : 1);
+    QVERIFY(desk.restore(document));
+    QCOMPARE(desk.window->getFocusPage(), marked);
+}
+
+void tst_LayoutWriter::sameBytesAfterRestoring_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("screen");
+    QTest::newRow("normal") << +Qt::WindowNoState << 0;
+    QTest::newRow("maximised") << +Qt::WindowMaximized << 0;
+    QTest::newRow("full-screen") << +Qt::WindowFullScreen << 0;
+    QTest::newRow("floating window on the second monitor") << +Qt::WindowNoState << 1;
+}
+
+void tst_LayoutWriter::sameBytesAfterRestoring()
+{
+    QFETCH(int, state);
+    QFETCH(int, screen);
+    if (screen >= Screens::count())
+        NORVANE_SKIP("needs a floating window on the second monitor");
+    Desk desk;
+    Dock* const dock = desk.pane("A B");
+    dock->split(Qt::Horizontal, true)->setTitleVisible(false);
+    dock->split(Qt::Vertical, false);
+    QVERIFY(desk.show());
+    desk.floatingPane("C")->split(Qt::Horizontal, false);
+    DockWindow* const floating = desk.window->floatingWindows().first();
+    WAIT_FOR(floating->frameSize() != floating->size());
+    floating->move(Screens::availableGeometry(screen).topLeft() + QPoint(100, 150));
+    WAIT_FOR(Screens::numberOf(floating) == screen);
+    const QSize normal = desk.window->frameSize();
+    desk.window->setWindowState(static_cast<Qt::WindowState>(state));
+    WAIT_FOR(state == Qt::WindowNoState || desk.window->frameSize().width() > normal.width());
+
+    const QByteArray document = desk.save(dock->widget(0));
+    const QSize size = desk.window->size();
+    QVERIFY(desk.restore(document));
+    QWidget* const focused = desk.window->findChild<QWidget*>(desk.window->getFocusPage());
+    // Qt may learn late, or never, how the frame of a maximised window differs from that of a normal one.
+    const int compared = state == Qt::WindowNoState ? 0 : int(document.indexOf("screen="));
+    const auto saved = [&] {
+        return desk.save(focused).mid(desk.save(focused).size() - document.size() + compared);
+    };
+    waitUntil([&] { return desk.window->size() == size && saved() == document.mid(compared); });
+    QCOMPARE(desk.window->size(), size);
+    QCOMPARE(QString::fromUtf8(saved()), QString::fromUtf8(document.mid(compared)));
+}
+
+void tst_LayoutWriter::stateSurvives_data()
+{
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<QString>("kept");
+    const QString clef = QString::fromUtf8("\xf0\x9d\x84\x9e \xc3\xa4\xe2\x82\xac");
+    const QString breaks = latin1("a\nb\tc\r\nd\r");
+    const QString marks = latin1("<a b=\"c\">&amp;'</a>");
+    QTest::newRow("markup") << marks << marks;
+    QTest::newRow("line breaks and tabs") << breaks << breaks;
+    QTest::newRow("beyond ASCII") << clef << clef;
+    QTest::newRow("control characters")
+        << QString(latin1("a\x01") + QChar(0) + latin1("b\x1f")) << latin1("ab");
+    QTest::newRow("half a character") << QString(QChar(0xd834)) + latin1("x") + QChar(0xdd1e) << latin1("x");
+    QTest::newRow("no characters") << QString(latin1("y") + QChar(0xfffe) + QChar(0xffff)) << latin1("y");
+}
+
+void tst_LayoutWriter::stateSurvives()
+{
+    QFETCH(QString, state);
+    QFETCH(QString, kept);
+    BareDesk desk;
+    DockPlaceHolder* const placeHolder = new DockPlaceHolder;
+    placeHolder->setObjectName(state);
+    placeHolder->setLayoutState(state);
+    desk.pane("")->addWidget(placeHolder, false, false);
+    QVERIFY(desk.restore(desk.save()));
+    const QList<DockPlaceHolder*> found = desk.window->placeHolders();
+    QCOMPARE(int(found.size()), 1);
+    QCOMPARE(found[0]->layoutState(), kept);
+    QCOMPARE(found[0]->objectName(), kept);
+}
+
+void tst_LayoutWriter::unwritableDeviceIsLeftAlone()
+{
+    Desk desk;
+    desk.pane("A");
+    QByteArray bytes("old");
+    QBuffer buffer(&bytes);
+    desk.window->saveLayout(&buffer, nullptr);
+    buffer.open(QIODevice::ReadOnly);
+    desk.window->saveLayout(&buffer, nullptr);
+    desk.window->saveLayout(nullptr, nullptr);
+    QCOMPARE(bytes, QByteArray("old"));
+    QVERIFY(desk.window->isInLayout(latin1("A")));
+}
+
+QTEST_MAIN(tst_LayoutWriter)
+#include "tst_LayoutWriter.moc"
