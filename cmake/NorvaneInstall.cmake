@@ -9,6 +9,12 @@ set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/NorvaneCore)
 # Every other header is the library's own affair and may change from one version to the next.
 set(public_headers
     NorvaneCoreExport.h
+    colour/Color4.h
+    colour/ColorModels.h
+    colour/SampleRange.h
+    colour/TransformI.h
+    colour/YCbCrMatrix.h
+    colour/YCbCrRows.h
     ui/docking/Dock.h
     ui/docking/DockMainWindow.h
     ui/docking/DockPlaceHolder.h

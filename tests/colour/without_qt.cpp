@@ -7,10 +7,6 @@
 #include <colour/YCbCrMatrix.h>
 #include <colour/YCbCrRows.h>
 
-#ifdef QT_VERSION
-#error "colour/ includes Qt"
-#endif
-
 using namespace Norvane::Colour;
 
 int main()
