@@ -33,9 +33,11 @@ void place(DockWindow* window, const SavedWindow& saved, bool fill, QMainWindow*
     const QRect available = Screens::availableGeometry(qMin(saved.screen, screenCount - 1));
     const QRect frame = fill ? available : placeSavedWindow(saved, available, screenCount);
     const bool fullscreen = saved.fullscreen && saved.screen < screenCount;
-    // Resizing makes Qt forget that a window is full-screen, but not the window manager: it has to be told first.
-    window->setWindowState(window->windowState() & ~Qt::WindowFullScreen);
-    setFrameGeometry(window, frame);
+    // A window manager ignores the new size of a full-screen window, and Qt 6 may never learn that it did.
+    const bool staysFullscreen =
+        fullscreen && WidgetUtils::GetFullscreen(window) && Screens::numberOf(window) == saved.screen;
+    if (!staysFullscreen)
+        setFrameGeometry(window, frame);
     WidgetUtils::SetFullscreen(window, fullscreen, mainWindow);
     if (saved.maximized)
         window->setWindowState(window->windowState() | Qt::WindowMaximized);
