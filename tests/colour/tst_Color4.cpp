@@ -14,7 +14,6 @@ class tst_Color4 : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void isBlackAndOpaqueByDefault();
-    void keepsWhatItIsGiven();
     void nullPointersAreSkipped();
     void alphaIsLeftAlone();
     void viewsComeBack_data();
@@ -64,19 +63,6 @@ void tst_Color4::isBlackAndOpaqueByDefault()
 {
     QVERIFY(same(Color4(), Color4(0, 0, 0, 1)));
     QVERIFY(std::has_virtual_destructor<Color4>::value);
-}
-
-void tst_Color4::keepsWhatItIsGiven()
-{
-    const Color4 color(-0.25f, 1.5f, 1e30f, 2);
-    const Color4 copy(color);
-    Color4 assigned;
-    assigned = color;
-    for (const Color4& one : {color, copy, assigned}) {
-        float r = 0, g = 0, b = 0, a = 0;
-        one.getRGBA(&r, &g, &b, &a);
-        QVERIFY(r == -0.25f && g == 1.5f && b == 1e30f && a == 2);
-    }
 }
 
 void tst_Color4::nullPointersAreSkipped()

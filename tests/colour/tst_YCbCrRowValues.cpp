@@ -22,14 +22,8 @@ class tst_YCbCrRowValues : public QObject
 private Q_SLOTS:
     void sampleHasValue_data();
     void sampleHasValue();
-    void unpackedSampleHasValue_data();
-    void unpackedSampleHasValue();
-    void endOfRow_data();
-    void endOfRow();
     void valueHasCode_data();
     void valueHasCode();
-    void alphaIsOpaqueWithoutPlane_data();
-    void alphaIsOpaqueWithoutPlane();
     void everyCodeComesBack_data();
     void everyCodeComesBack();
     void pairHasMeanChroma();
@@ -64,17 +58,16 @@ std::vector<unsigned char> rowOf(const RowExpectation& layout, const Numbers& sa
 
 /// Encodes pixels of four floats, R G B A.
 std::vector<unsigned char> encoded(const char* name, const std::vector<float>& rgba,
-                                   const ForwardMatrix& matrix, bool hasAlpha = true)
+                                   const ForwardMatrix& matrix)
 {
     const float* const p = rgba.data();
     const int count = static_cast<int>(rgba.size() / 4);
     std::vector<unsigned char> row(rgba.size() * 4 + 16);
     if (find(name) < rowLayouts().size()) {
-        rowLayouts()[find(name)].encode(hasAlpha ? p + 3 : nullptr, p, p + 1, p + 2, 4, row.data(), count,
-                                        matrix);
+        rowLayouts()[find(name)].encode(p + 3, p, p + 1, p + 2, 4, row.data(), count, matrix);
     } else {
         std::vector<std::uint16_t> words(rgba.size());
-        encodeAYCbCr8In16(hasAlpha ? p + 3 : nullptr, p, p + 1, p + 2, 4, words.data(), count, matrix);
+        encodeAYCbCr8In16(p + 3, p, p + 1, p + 2, 4, words.data(), count, matrix);
         std::memcpy(row.data(), words.data(), words.size() * 2);
     }
     return row;
@@ -83,13 +76,6 @@ std::vector<unsigned char> encoded(const char* name, const std::vector<float>& r
 int countOf(const RowExpectation& layout, int pixels)
 {
     return layout.countsBytes ? static_cast<int>(layout.bytesRead(pixels)) : pixels;
-}
-
-void addLayouts(int layouts)
-{
-    QTest::addColumn<int>("layout");
-    for (int i = 0; i < layouts; ++i)
-        QTest::newRow(kExpectations[i].name) << i;
 }
 
 template <typename Sample,
@@ -190,64 +176,6 @@ void tst_YCbCrRowValues::sampleHasValue()
     }
 }
 
-void tst_YCbCrRowValues::unpackedSampleHasValue_data()
-{
-    QTest::addColumn<Numbers>("samples");
-    QTest::addColumn<Numbers>("unpacked");
-    const double c = 256, l = 255;
-    QTest::newRow("CbYCrY8") << Numbers{1, 2, 3, 255} << Numbers{2 / l, 1 / c, 3 / c, 1, 1, 1 / c, 3 / c, 1};
-    QTest::newRow("CbYCrY8MPEG") << Numbers{1, 2, 3, 255}
-                                 << Numbers{2 / l, 1 / c, 3 / c, 1, 1, 1 / c, 3 / c, 1};
-    QTest::newRow("YCbYCr8") << Numbers{1, 2, 255, 4} << Numbers{1 / l, 2 / c, 4 / c, 1, 1, 2 / c, 4 / c, 1};
-    QTest::newRow("AYCbCr8") << Numbers{1, 255, 3, 4} << Numbers{1, 3 / c, 4 / c, 1 / l};
-    QTest::newRow("CbYCrA8") << Numbers{1, 255, 3, 4} << Numbers{1, 1 / c, 3 / c, 4 / l};
-    QTest::newRow("AYCbCrF") << Numbers{-1, 2, 0.5, 1e6} << Numbers{2, 0.5, 1e6, -1};
-    QTest::newRow("V210") << Numbers{1, 1023, 512, 0}
-                          << Numbers{1, 1 / 1024.0, 0.5, 1, 0, 1 / 1024.0, 0.5, 1};
-    QTest::newRow("CbYCrY16") << Numbers{1, 65535, 32768, 0}
-                              << Numbers{1, 1 / 65536.0, 0.5, 1, 0, 1 / 65536.0, 0.5, 1};
-    QTest::newRow("AYCbCr16") << Numbers{65535, 0, 1, 32768} << Numbers{0, 1 / 65536.0, 0.5, 1};
-    QTest::newRow("AYCbCr32") << Numbers{65535, 131070, 1, 32768} << Numbers{2, 1 / 65536.0, 0.5, 1};
-}
-
-void tst_YCbCrRowValues::unpackedSampleHasValue()
-{
-    QFETCH(Numbers, samples);
-    QFETCH(Numbers, unpacked);
-    const std::size_t layout = find(QTest::currentDataTag());
-    const int pixels = unpacked.size() / 4;
-    float p[8] = {};
-    rowLayouts()[layout].unpack(rowOf(kExpectations[layout], samples).data(), p + 3, p, p + 1, p + 2, 4,
-                                countOf(kExpectations[layout], pixels));
-    for (int i = 0; i < unpacked.size(); ++i)
-        QVERIFY2(isClose(p[i], unpacked[i]), qPrintable(told(i, p[i], unpacked[i])));
-}
-
-void tst_YCbCrRowValues::endOfRow_data()
-{
-    QTest::addColumn<Numbers>("pixelsOfCounts");
-    for (const char* const layout : {"CbYCrY8", "CbYCrY8MPEG"})
-        QTest::newRow(layout) << Numbers{0, 0, 0, 1, 2, 2, 2, 3, 4};
-    QTest::newRow("YCbYCr8") << Numbers{0, 0, 0, 0, 2, 2, 2, 2, 4};
-    for (const char* const layout : {"AYCbCr8", "V210", "CbYCrY16"})
-        QTest::newRow(layout) << Numbers{0, 1, 2, 3, 4, 5, 6, 7, 8};
-}
-
-void tst_YCbCrRowValues::endOfRow()
-{
-    QFETCH(Numbers, pixelsOfCounts);
-    const std::size_t layout = find(QTest::currentDataTag());
-    const std::vector<unsigned char> row(64);
-    for (int count = 0; count < pixelsOfCounts.size(); ++count) {
-        float rgb[40];
-        std::fill(rgb, rgb + 40, kInfinity);
-        rowLayouts()[layout].decode(row.data(), nullptr, rgb, rgb + 1, rgb + 2, 3, count,
-                                    inverseCoefficients());
-        QCOMPARE(std::find(rgb, rgb + 40, kInfinity) - rgb,
-                 static_cast<std::ptrdiff_t>(pixelsOfCounts[count]) * 3);
-    }
-}
-
 void tst_YCbCrRowValues::valueHasCode_data()
 {
     for (const char* const kind : {"luma", "cb", "cr", "alpha"})
@@ -296,26 +224,6 @@ void tst_YCbCrRowValues::valueHasCode()
                 QCOMPARE(static_cast<double>(layout.sample(row.data(), layout.a)), alpha[code]);
         }
     }
-}
-
-void tst_YCbCrRowValues::alphaIsOpaqueWithoutPlane_data()
-{
-    QTest::addColumn<double>("code");
-    QTest::newRow("AYCbCr8") << 255.0;
-    QTest::newRow("CbYCrA8") << 235.0;
-    QTest::newRow("AYCbCrF") << 1.0;
-    for (const char* const layout : {"AYCbCr16", "AYCbCr32", "AYCbCr8In16"})
-        QTest::newRow(layout) << 65535.0;
-}
-
-void tst_YCbCrRowValues::alphaIsOpaqueWithoutPlane()
-{
-    QFETCH(double, code);
-    const RowExpectation& layout = kExpectations[find(QTest::currentDataTag())];
-    const std::vector<unsigned char> row =
-        encoded(layout.name, std::vector<float>(40, 0.25f), forwardMatrix(), false);
-    for (int pixel = 0; pixel < 10; ++pixel)
-        QCOMPARE(static_cast<double>(layout.sample(row.data(), layout.index(pixel, layout.a))), code);
 }
 
 void tst_YCbCrRowValues::everyCodeComesBack_data()
@@ -375,7 +283,9 @@ void tst_YCbCrRowValues::pairHasMeanChroma()
 
 void tst_YCbCrRowValues::boundMatrices_data()
 {
-    addLayouts(11);
+    QTest::addColumn<int>("layout");
+    for (int i = 0; i < 11; ++i)
+        QTest::newRow(kExpectations[i].name) << i;
 }
 
 void tst_YCbCrRowValues::boundMatrices()

@@ -27,12 +27,12 @@ inline void deleteDeferred()
 }
 
 template <typename Condition>
-bool waitUntil(Condition condition)
+bool waitUntil(Condition condition, int milliseconds = 5000)
 {
     QElapsedTimer timer;
     timer.start();
     deleteDeferred();
-    while (!condition() && timer.elapsed() < 5000) {
+    while (!condition() && timer.elapsed() < milliseconds) {
         QTest::qWait(5);
         deleteDeferred();
     }
