@@ -20,6 +20,11 @@ struct MemoryOrder {
     HWY_INLINE VU arranged(VU v) const { return v; }
     HWY_INLINE VF restored(VF v) const { return v; }
     HWY_INLINE VU restored(VU v) const { return v; }
+    /// Writes the lanes of two vectors by turns.
+    HWY_INLINE void storePairs(VU first, VU second, std::uint32_t* to) const
+    {
+        hn::StoreInterleaved2(first, second, U(), to);
+    }
     /// The even ones of lanes in the order of memory, each twice; then the odd ones.
     HWY_INLINE VF arrangedEven(VF v) const { return hn::DupEven(v); }
     HWY_INLINE VF arrangedOdd(VF v) const { return hn::DupOdd(v); }
@@ -34,12 +39,16 @@ struct BlockOrderIndices {
             arrangeEven[lane] = std::int32_t(pixel & ~std::size_t(1));
             arrangeOdd[lane] = std::int32_t(pixel | 1);
             restore[pixel] = std::int32_t(lane);
+            // Of pairs interleaved within their blocks, those of each block's first half come first.
+            const std::size_t pair = lane / 2;
+            restorePairs[lane] = std::int32_t(pair % (kLanes / 4) * 4 + pair / (kLanes / 4) * 2 + lane % 2);
         }
     }
     alignas(64) std::int32_t arrange[kLanes]{};
     alignas(64) std::int32_t arrangeEven[kLanes]{};
     alignas(64) std::int32_t arrangeOdd[kLanes]{};
     alignas(64) std::int32_t restore[kLanes]{};
+    alignas(64) std::int32_t restorePairs[kLanes]{};
 };
 
 /// That in which four vectors, one for each component, have only to be transposed within blocks of 16 bytes
@@ -53,12 +62,20 @@ public:
         , m_arrangeEven(hn::SetTableIndices(F(), kIndices.arrangeEven))
         , m_arrangeOdd(hn::SetTableIndices(F(), kIndices.arrangeOdd))
         , m_restore(hn::SetTableIndices(F(), kIndices.restore))
+        , m_restorePairs(hn::SetTableIndices(F(), kIndices.restorePairs))
     {
     }
     HWY_INLINE VF arranged(VF v) const { return kLanes == 4 ? v : hn::TableLookupLanes(v, m_arrange); }
     HWY_INLINE VU arranged(VU v) const { return hn::BitCast(U(), arranged(hn::BitCast(F(), v))); }
     HWY_INLINE VF restored(VF v) const { return kLanes == 4 ? v : hn::TableLookupLanes(v, m_restore); }
     HWY_INLINE VU restored(VU v) const { return hn::BitCast(U(), restored(hn::BitCast(F(), v))); }
+    HWY_INLINE void storePairs(VU first, VU second, std::uint32_t* to) const
+    {
+        const VU lower = hn::InterleaveLower(U(), first, second);
+        const VU upper = hn::InterleaveUpper(U(), first, second);
+        hn::StoreU(restoredPairs(lower), U(), to);
+        hn::StoreU(restoredPairs(upper), U(), to + kLanes);
+    }
     HWY_INLINE VF arrangedEven(VF v) const
     {
         return kLanes == 4 ? hn::DupEven(v) : hn::TableLookupLanes(v, m_arrangeEven);
@@ -72,7 +89,12 @@ private:
     static constexpr BlockOrderIndices kIndices{};
 
     using VI = decltype(hn::SetTableIndices(F(), static_cast<const std::int32_t*>(nullptr)));
-    const VI m_arrange, m_arrangeEven, m_arrangeOdd, m_restore;
+    HWY_INLINE VU restoredPairs(VU v) const
+    {
+        return kLanes == 4 ? v : hn::BitCast(U(), hn::TableLookupLanes(hn::BitCast(F(), v), m_restorePairs));
+    }
+
+    const VI m_arrange, m_arrangeEven, m_arrangeOdd, m_restore, m_restorePairs;
 };
 
 /// Four vectors, transposed within their blocks.

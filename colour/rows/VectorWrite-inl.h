@@ -49,10 +49,8 @@ HWY_INLINE void writeFour(const FourVectors<VU>& codes, std::uint8_t* row, const
 template <class Order>
 HWY_INLINE void writeFour(const FourVectors<VU>& codes, std::uint16_t* row, const Order& order)
 {
-    // Words of the first two and the last two codes, by turns.
-    const VU first = order.restored(joined<16>(codes.at[0], codes.at[1]));
-    const VU second = order.restored(joined<16>(codes.at[2], codes.at[3]));
-    hn::StoreInterleaved2(first, second, U(), reinterpret_cast<std::uint32_t*>(row));
+    order.storePairs(joined<16>(codes.at[0], codes.at[1]), joined<16>(codes.at[2], codes.at[3]),
+                     reinterpret_cast<std::uint32_t*>(row));
 }
 
 template <class Order>
