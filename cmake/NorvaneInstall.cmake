@@ -29,6 +29,8 @@ set(public_headers
     ui/docking/TitleBarButton.h
     ui/docking/WidgetUtils.h
     ui/toolkit/Events.h
+    ui/widgets/DisclosableWidget.h
+    ui/widgets/DisclosureButton.h
     ui/widgets/FlatButton.h
     ui/widgets/SearchField.h)
 foreach(header IN LISTS public_headers)
