@@ -31,6 +31,7 @@ set(public_headers
     ui/toolkit/Events.h
     ui/widgets/DisclosableWidget.h
     ui/widgets/DisclosureButton.h
+    ui/widgets/FilenameField.h
     ui/widgets/FlatButton.h
     ui/widgets/SearchField.h)
 foreach(header IN LISTS public_headers)
