@@ -31,6 +31,8 @@ set(public_headers
     ui/toolkit/Events.h
     ui/widgets/DisclosableWidget.h
     ui/widgets/DisclosureButton.h
+    ui/widgets/DropAcceptingListWidget.h
+    ui/widgets/DropAcceptingWidget.h
     ui/widgets/FilenameField.h
     ui/widgets/FlatButton.h
     ui/widgets/SearchField.h)
