@@ -29,6 +29,7 @@ set(public_headers
     ui/docking/TitleBarButton.h
     ui/docking/WidgetUtils.h
     ui/toolkit/Events.h
+    ui/widgets/BubbleWidget.h
     ui/widgets/DisclosableWidget.h
     ui/widgets/DisclosureButton.h
     ui/widgets/DropAcceptingListWidget.h
