@@ -28,7 +28,15 @@ set(public_headers
     ui/docking/SnappableWindow.h
     ui/docking/TitleBarButton.h
     ui/docking/WidgetUtils.h
-    ui/toolkit/Events.h)
+    ui/toolkit/Events.h
+    ui/widgets/BubbleWidget.h
+    ui/widgets/DisclosableWidget.h
+    ui/widgets/DisclosureButton.h
+    ui/widgets/DropAcceptingListWidget.h
+    ui/widgets/DropAcceptingWidget.h
+    ui/widgets/FilenameField.h
+    ui/widgets/FlatButton.h
+    ui/widgets/SearchField.h)
 foreach(header IN LISTS public_headers)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${header_dir}/${folder})

@@ -1,6 +1,7 @@
 // The menus of the main window and what the simple entries do.
 
 #include "Arrangements.h"
+#include "ControlHelp.h"
 #include "DisplayOptions.h"
 #include "HostWindow.h"
 #include "NotesPanel.h"
@@ -26,6 +27,7 @@ void HostWindow::buildMenus()
     buildArrangementMenu();
     buildViewMenu();
     QMenu* const help = menuBar()->addMenu(tr("&Help"));
+    addEntry(help, tr("&What Is This?"), SLOT(askAboutControl()), tr("Shift+F1"));
     addEntry(help, tr("&About"), SLOT(about()));
 }
 
@@ -57,6 +59,8 @@ void HostWindow::buildPanelsMenu()
     addEntry(menu, tr("New &Viewer"), SLOT(newViewer()));
     addEntry(menu, tr("New &Pictures"), SLOT(newPictures()));
     addEntry(menu, tr("New &Notes"), SLOT(newNotes()));
+    addEntry(menu, tr("New &Files"), SLOT(newFiles()));
+    addEntry(menu, tr("New &Inspector"), SLOT(newInspector()));
     menu->addSeparator();
     m_notesMenu = menu->addMenu(tr("&Closed Notes"));
     connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillNotesMenu()));
@@ -165,6 +169,11 @@ void HostWindow::fillNotesMenu()
             ->setData(panel->objectName());
     }
     m_notesMenu->setEnabled(!m_notesMenu->isEmpty());
+}
+
+void HostWindow::askAboutControl()
+{
+    m_controlHelp->ask();
 }
 
 void HostWindow::about()

@@ -218,13 +218,14 @@ void HostWindow::arrange(Arrangement arrangement)
 {
     ArrangedPanels panels;
     panels.viewers = idsToArrange(PanelRegistry::ViewerKind);
-    panels.pictures = idsToArrange(PanelRegistry::PicturesKind);
+    panels.pictures = idsToArrange(PanelRegistry::PicturesKind) + openIds(PanelRegistry::FilesKind) +
+                      openIds(PanelRegistry::InspectorKind);
     panels.notes = idsToArrange(PanelRegistry::NotesKind);
     panels.currentViewer = m_activeViewer ? m_activeViewer->objectName() : panels.viewers.first();
     restoreSafely(arrangementDocument(arrangement, panels, place()), tr("The arrangement"));
 }
 
-QStringList HostWindow::idsToArrange(PanelRegistry::Kind kind)
+QStringList HostWindow::openIds(PanelRegistry::Kind kind) const
 {
     const QStringList all = m_panels.ids(kind);
     QStringList open;
@@ -232,8 +233,15 @@ QStringList HostWindow::idsToArrange(PanelRegistry::Kind kind)
         if (UI::Dock::dockForWidget(m_panels.find(id)))
             open.append(id);
     }
+    return open;
+}
+
+QStringList HostWindow::idsToArrange(PanelRegistry::Kind kind)
+{
+    const QStringList open = openIds(kind);
     if (!open.isEmpty())
         return open;
+    const QStringList all = m_panels.ids(kind);
     return all.isEmpty() ? QStringList(m_panels.createPanel(kind)->objectName()) : all;
 }
 

@@ -1,5 +1,8 @@
 #include "HostWindow.h"
 
+#include "ControlHelp.h"
+#include "FilesPanel.h"
+#include "InspectorPanel.h"
 #include "NotesPanel.h"
 #include "Pictures.h"
 #include "PicturesPanel.h"
@@ -22,8 +25,12 @@ using UI::Dock;
 
 HostWindow::HostWindow()
     : m_panels(&m_pictures)
+    , m_controlHelp(new ControlHelp(this))
 {
     setObjectName(QLatin1String("HostWindow"));
+    setWhatsThis(
+        tr("A pane. It holds panels as tabs, which can be dragged to other places of this pane, to another "
+           "one, or out of the window."));
     applyOptions();
     buildMenus();
     updateTitle();
@@ -54,6 +61,11 @@ void HostWindow::connectPanel(QWidget* panel)
         connect(panel, SIGNAL(picturesDropped(QStringList)), this, SLOT(openPictures(QStringList)));
     } else if (qobject_cast<PicturesPanel*>(panel)) {
         connect(panel, SIGNAL(pictureChosen(QString)), this, SLOT(openPicture(QString)));
+    } else if (qobject_cast<FilesPanel*>(panel)) {
+        connect(panel, SIGNAL(pictureChosen(QString)), this, SLOT(openPicture(QString)));
+        connect(panel, SIGNAL(picturesDropped(QStringList)), this, SLOT(openPictures(QStringList)));
+    } else if (qobject_cast<InspectorPanel*>(panel)) {
+        updateInspectors();
     } else if (qobject_cast<NotesPanel*>(panel)) {
         connect(panel, SIGNAL(textReplaced(QString)), this, SLOT(keepText(QString)));
     }
@@ -78,6 +90,7 @@ void HostWindow::panelActivated(Dock*, QWidget* panel)
     if (ViewerPanel* const viewer = qobject_cast<ViewerPanel*>(panel)) {
         m_activeViewer = viewer;
         updateTitle();
+        updateInspectors();
     }
 }
 
@@ -97,6 +110,7 @@ void HostWindow::pictureChanged()
     if (Dock* const pane = Dock::dockForWidget(viewer))
         pane->updateTitles();
     updateTitle();
+    updateInspectors();
 }
 
 void HostWindow::updateTitle()
@@ -105,6 +119,17 @@ void HostWindow::updateTitle()
         setWindowTitle(tr("%1 - norvane-host").arg(m_activeViewer->windowTitle()));
     else
         setWindowTitle(tr("norvane-host"));
+}
+
+void HostWindow::updateInspectors()
+{
+    const QList<InspectorPanel*> inspectors = m_panels.inspectors();
+    for (InspectorPanel* const inspector : inspectors) {
+        if (m_activeViewer)
+            inspector->setPicture(m_activeViewer->picturePath(), m_activeViewer->picture());
+        else
+            inspector->setPicture(QString(), QImage());
+    }
 }
 
 void HostWindow::changeEvent(QEvent* event)
@@ -164,6 +189,16 @@ void HostWindow::newPictures()
 void HostWindow::newNotes()
 {
     addPanel(m_panels.createPanel(PanelRegistry::NotesKind), paneForPanels());
+}
+
+void HostWindow::newFiles()
+{
+    addPanel(m_panels.createPanel(PanelRegistry::FilesKind), paneForPanels());
+}
+
+void HostWindow::newInspector()
+{
+    addPanel(m_panels.createPanel(PanelRegistry::InspectorKind), paneForPanels());
 }
 
 void HostWindow::reopenNotes(QAction* action)

@@ -17,6 +17,7 @@ namespace Norvane { namespace Host {
 enum Arrangement : int;
 struct ArrangedPanels;
 struct CommandLine;
+class ControlHelp;
 struct MainWindowPlace;
 class ViewerPanel;
 
@@ -49,6 +50,8 @@ private Q_SLOTS:
     void newViewer();
     void newPictures();
     void newNotes();
+    void newFiles();
+    void newInspector();
     void fillNotesMenu();
     void reopenNotes(QAction* action);
 
@@ -56,6 +59,7 @@ private Q_SLOTS:
     void changeOption(QAction* action);
     void toggleFullScreen();
     void choosePalette(QAction* action);
+    void askAboutControl();
     void about();
 
     void connectPanel(QWidget* panel);
@@ -87,6 +91,8 @@ private:
     void restoreKeptTexts();
 
     void arrange(Arrangement arrangement);
+    QStringList openIds(PanelRegistry::Kind kind) const;
+    /// Never empty: one is made if there is none.
     QStringList idsToArrange(PanelRegistry::Kind kind);
     MainWindowPlace place() const;
 
@@ -95,10 +101,12 @@ private:
     UI::Dock* paneForPanels();
     UI::Dock* paneForViewers();
     void updateTitle();
+    void updateInspectors();
 
     PictureList m_pictures;
     PanelRegistry m_panels;
     QString m_layoutPath;
+    ControlHelp* m_controlHelp;
     QMenu* m_notesMenu = nullptr;
     QAction* m_fullScreenAction = nullptr;
     /// The pane that last had the keyboard focus, which a menu may have by now.

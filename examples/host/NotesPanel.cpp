@@ -21,6 +21,7 @@ NotesPanel::NotesPanel(int number, QWidget* parent)
     setWindowTitle(number > 1 ? tr("Notes %1").arg(number) : tr("Notes"));
     setAccessibleName(windowTitle());
     setTabChangesFocus(true);
+    setWhatsThis(tr("Notes of yours. They are kept with the arrangement."));
 }
 
 QString NotesPanel::layoutState() const

@@ -1,5 +1,7 @@
 #include "PanelRegistry.h"
 
+#include "FilesPanel.h"
+#include "InspectorPanel.h"
 #include "NotesPanel.h"
 #include "PictureList.h"
 #include "PicturesPanel.h"
@@ -12,7 +14,8 @@ namespace Norvane { namespace Host {
 namespace {
 
 /// By Kind.
-const char* const kKindNames[] = {"Viewer", "Pictures", "Notes"};
+const char* const kKindNames[] = {"Viewer", "Pictures", "Notes", "Files", "Inspector"};
+const int kKindCount = sizeof kKindNames / sizeof *kKindNames;
 
 template <class Panel>
 QList<Panel*> panelsOfType(const QMap<int, QPointer<QWidget>>& panels)
@@ -83,6 +86,11 @@ QList<NotesPanel*> PanelRegistry::notes() const
     return panelsOfType<NotesPanel>(m_panels.value(NotesKind));
 }
 
+QList<InspectorPanel*> PanelRegistry::inspectors() const
+{
+    return panelsOfType<InspectorPanel>(m_panels.value(InspectorKind));
+}
+
 QList<QWidget*> PanelRegistry::closedPanels() const
 {
     QList<QWidget*> closed;
@@ -111,7 +119,7 @@ bool PanelRegistry::readId(const QString& text, Id* id)
 {
     const int dot = int(text.lastIndexOf(QLatin1Char('.')));
     const QString kind = text.left(qMax(0, dot));
-    for (int i = ViewerKind; i <= NotesKind; ++i) {
+    for (int i = 0; i < kKindCount; ++i) {
         if (kind != QLatin1String(kKindNames[i]))
             continue;
         id->kind = Kind(i);
@@ -139,6 +147,12 @@ QWidget* PanelRegistry::create(Kind kind, int number)
         break;
     case NotesKind:
         panel = new NotesPanel(number);
+        break;
+    case FilesKind:
+        panel = new FilesPanel(number);
+        break;
+    case InspectorKind:
+        panel = new InspectorPanel(number);
         break;
     }
     panel->setObjectName(idText(kind, number));

@@ -10,6 +10,7 @@
 
 namespace Norvane { namespace Host {
 
+class InspectorPanel;
 class NotesPanel;
 class PictureList;
 class ViewerPanel;
@@ -21,7 +22,7 @@ class PanelRegistry : public QObject
 {
     Q_OBJECT
 public:
-    enum Kind { ViewerKind, PicturesKind, NotesKind };
+    enum Kind { ViewerKind, PicturesKind, NotesKind, FilesKind, InspectorKind };
 
     /// \a pictures is shown by all panels with pictures and not owned.
     explicit PanelRegistry(PictureList* pictures, QObject* parent = nullptr);
@@ -38,6 +39,7 @@ public:
     QStringList ids(Kind kind) const;
     QList<ViewerPanel*> viewers() const;
     QList<NotesPanel*> notes() const;
+    QList<InspectorPanel*> inspectors() const;
 
     /// Panels that are in no pane and not being dragged.
     QList<QWidget*> closedPanels() const;

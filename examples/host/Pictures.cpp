@@ -43,14 +43,19 @@ QImage read(const QString& path, const QSize& largest, QString* problem)
     return picture;
 }
 
-QString fileFilter()
+QStringList namePatterns()
 {
     QStringList patterns;
     const QList<QByteArray> formats = QImageReader::supportedImageFormats();
     for (const QByteArray& format : formats)
         patterns.append(QLatin1String("*.") + QString::fromLatin1(format));
+    return patterns;
+}
+
+QString fileFilter()
+{
     return QCoreApplication::translate("Pictures", "Pictures (%1);;All files (*)")
-        .arg(patterns.join(QLatin1String(" ")));
+        .arg(namePatterns().join(QLatin1String(" ")));
 }
 
 QStringList draggedFiles(const QMimeData* data)

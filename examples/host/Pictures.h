@@ -20,6 +20,9 @@ QString canonicalPath(const QString& path);
 /// a \a largest size the picture is shrunk to it while reading.
 QImage read(const QString& path, const QSize& largest, QString* problem);
 
+/// What files with pictures are called: "*.png" and so on.
+QStringList namePatterns();
+
 /// For a file dialog.
 QString fileFilter();
 

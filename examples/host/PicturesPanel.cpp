@@ -1,13 +1,16 @@
 #include "PicturesPanel.h"
 
+#include "Hint.h"
 #include "PictureList.h"
 #include "Pictures.h"
+
+#include <ui/widgets/SearchField.h>
 
 #include <QAction>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QListView>
-#include <QPainter>
+#include <QSortFilterProxyModel>
 #include <QVBoxLayout>
 
 namespace Norvane { namespace Host {
@@ -15,14 +18,28 @@ namespace Norvane { namespace Host {
 PicturesPanel::PicturesPanel(PictureList* pictures, int number, QWidget* parent)
     : QWidget(parent)
     , m_pictures(pictures)
+    , m_shown(new QSortFilterProxyModel(this))
     , m_list(new QListView(this))
 {
     setWindowTitle(number > 1 ? tr("Pictures %1").arg(number) : tr("Pictures"));
+    UI::SearchField* const search = new UI::SearchField(this);
+    search->setPrompt(tr("Search"));
+    search->setHasCancelButton(true);
+    search->setAccessibleName(tr("Search the opened pictures"));
+    search->setWhatsThis(tr("Shows only the pictures whose name has what you type here."));
     QVBoxLayout* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    QVBoxLayout* const searchLine = new QVBoxLayout;
+    searchLine->setContentsMargins(4, 4, 4, 4);
+    searchLine->addWidget(search);
+    layout->addLayout(searchLine);
     layout->addWidget(m_list);
 
-    m_list->setModel(pictures);
+    m_shown->setSourceModel(pictures);
+    m_shown->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    connect(search, SIGNAL(textChanged(QString)), m_shown, SLOT(setFilterFixedString(QString)));
+    m_list->setModel(m_shown);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setViewMode(QListView::IconMode);
     m_list->setMovement(QListView::Static);
@@ -31,6 +48,9 @@ PicturesPanel::PicturesPanel(PictureList* pictures, int number, QWidget* parent)
     m_list->setIconSize(PictureList::thumbnailSize());
     m_list->setGridSize(PictureList::thumbnailSize() + QSize(20, fontMetrics().height() + 18));
     m_list->setAccessibleName(tr("Opened pictures"));
+    m_list->setWhatsThis(
+        tr("The pictures opened so far. A double click shows one, the Delete key takes it off "
+           "the list."));
     m_list->viewport()->installEventFilter(this);
 
     QAction* const remove = new QAction(tr("&Remove from List"), m_list);
@@ -59,29 +79,27 @@ void PicturesPanel::setLayoutState(const QString& text)
 
 void PicturesPanel::choose(const QModelIndex& index)
 {
-    Q_EMIT pictureChosen(m_pictures->pathAt(index));
+    Q_EMIT pictureChosen(pathAt(index));
 }
 
 void PicturesPanel::removeCurrent()
 {
-    m_pictures->removePicture(m_pictures->pathAt(m_list->currentIndex()));
+    m_pictures->removePicture(pathAt(m_list->currentIndex()));
+}
+
+QString PicturesPanel::pathAt(const QModelIndex& shownIndex) const
+{
+    return m_pictures->pathAt(m_shown->mapToSource(shownIndex));
 }
 
 bool PicturesPanel::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::Paint || m_pictures->rowCount() > 0)
+    if (event->type() != QEvent::Paint || m_shown->rowCount() > 0)
         return QWidget::eventFilter(watched, event);
-    paintHint();
+    const bool isFiltered = m_pictures->rowCount() > 0;
+    paintHint(m_list, isFiltered ? tr("No opened picture has this in its name.")
+                                 : tr("Drop or open pictures: they are listed here."));
     return true;
-}
-
-void PicturesPanel::paintHint()
-{
-    QWidget* const viewport = m_list->viewport();
-    QPainter painter(viewport);
-    painter.setPen(m_list->palette().color(QPalette::Disabled, QPalette::Text));
-    painter.drawText(viewport->rect().adjusted(12, 12, -12, -12), Qt::AlignCenter | Qt::TextWordWrap,
-                     tr("Drop or open pictures: they are listed here."));
 }
 
 void PicturesPanel::dragEnterEvent(QDragEnterEvent* event)

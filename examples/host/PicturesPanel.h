@@ -6,14 +6,15 @@
 
 class QListView;
 class QModelIndex;
+class QSortFilterProxyModel;
 
 namespace Norvane { namespace Host {
 
 class PictureList;
 
-/// A panel with thumbnails of all opened pictures. A double click or Enter asks for one, Delete takes it off
-/// the list, dropped files are added. Its layout state is the list, one path a line; a layout only adds
-/// pictures.
+/// A panel with thumbnails of the opened pictures: all, or those whose name has what is typed above them. A
+/// double click or Enter asks for one, Delete takes it off the list, dropped files are added. Its layout
+/// state is the list, one path a line; a layout only adds pictures.
 class PicturesPanel : public QWidget
 {
     Q_OBJECT
@@ -38,9 +39,10 @@ private Q_SLOTS:
     void removeCurrent();
 
 private:
-    void paintHint();
+    QString pathAt(const QModelIndex& shownIndex) const;
 
     PictureList* m_pictures;
+    QSortFilterProxyModel* m_shown;
     QListView* m_list;
 };
 

@@ -51,6 +51,12 @@ ViewerPanel::ViewerPanel(int number, QWidget* parent)
     layout->addWidget(m_view, 1);
     layout->addLayout(bar);
 
+    m_view->setWhatsThis(
+        tr("The picture. The wheel zooms, dragging moves it; the keys + and - zoom, 0 shows one to "
+           "one and F fits it."));
+    m_fitButton->setWhatsThis(tr("Makes the picture as large as the panel and keeps it so."));
+    m_oneToOneButton->setWhatsThis(tr("Shows every pixel of the picture as one of the screen."));
+    m_status->setWhatsThis(tr("The name and size of the picture, the pixel under the mouse, and the zoom."));
     m_fitButton->setCheckable(true);
     setFocusProxy(m_view);
     setAcceptDrops(true);
@@ -66,6 +72,11 @@ ViewerPanel::ViewerPanel(int number, QWidget* parent)
 QString ViewerPanel::picturePath() const
 {
     return m_path;
+}
+
+const QImage& ViewerPanel::picture() const
+{
+    return m_view->picture();
 }
 
 void ViewerPanel::openPicture(const QString& path)
@@ -110,8 +121,10 @@ void ViewerPanel::setPicturePath(const QString& path)
 void ViewerPanel::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    if (!m_isRead)
-        readPicture();
+    if (m_isRead)
+        return;
+    readPicture();
+    Q_EMIT pictureChanged();
 }
 
 void ViewerPanel::readPicture()

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QWidget>
 
+class QImage;
 class QPoint;
 class QToolButton;
 
@@ -24,6 +25,8 @@ public:
     explicit ViewerPanel(int number, QWidget* parent = nullptr);
 
     QString picturePath() const;
+    /// Null until the panel has been seen, and if there is none that can be read.
+    const QImage& picture() const;
     /// Fits the picture at \a path into the view.
     void openPicture(const QString& path);
 
@@ -31,7 +34,7 @@ public:
     void setLayoutState(const QString& text);
 
 Q_SIGNALS:
-    /// There is another picture, or none; the window title has changed with it.
+    /// There is another picture, or none, or it has been read; the window title has changed with it.
     void pictureChanged();
     /// The user wants to choose a picture for this panel.
     void pictureWanted();

@@ -143,6 +143,8 @@ void tst_HostPanels::idsNamePanels_data()
     QTest::newRow("viewer") << "Viewer.1" << true;
     QTest::newRow("pictures") << "Pictures.12" << true;
     QTest::newRow("notes") << "Notes.3" << true;
+    QTest::newRow("files") << "Files.1" << true;
+    QTest::newRow("inspector") << "Inspector.2" << true;
     QTest::newRow("unknown kind") << "Scopes.1" << false;
     QTest::newRow("no number") << "Viewer." << false;
     QTest::newRow("number zero") << "Viewer.0" << false;

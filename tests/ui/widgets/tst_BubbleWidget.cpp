@@ -1,0 +1,315 @@
+#include <ui/widgets/BubbleWidget.h>
+
+#include <tests/support/Desk.h>
+#include <ui/toolkit/Compositing.h>
+#include <ui/toolkit/Painting.h>
+#include <ui/toolkit/Screens.h>
+#include <ui/widgets/BubbleGeometry.h>
+
+#include <QImage>
+#include <QLabel>
+#include <QVBoxLayout>
+
+using namespace NorvaneTest;
+using namespace Norvane::UI;
+
+class tst_BubbleWidget : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void marginsMakeRoomForPin_data();
+    void marginsMakeRoomForPin();
+    void sideIsChosen_data();
+    void sideIsChosen();
+    void outlineIsClosedPolygon_data();
+    void outlineIsClosedPolygon();
+    void cornersAreRound();
+    void pinStaysOffCorners_data();
+    void pinStaysOffCorners();
+    void popsUpNearEveryEdge_data();
+    void popsUpNearEveryEdge();
+    void withoutRoomCoversTarget();
+    void cutShapeIsFilled_data();
+    void cutShapeIsFilled();
+    void isDraggedIfMovable_data();
+    void isDraggedIfMovable();
+};
+
+Q_DECLARE_METATYPE(Qt::Alignment)
+
+namespace {
+
+const Qt::Alignment kNone = Qt::Alignment();
+
+class Bubble : public BubbleWidget
+{
+public:
+    Bubble()
+        : BubbleWidget(nullptr)
+    {
+    }
+
+    using BubbleWidget::bubblePath;
+
+    /// The tip of the pin in global coordinates.
+    QPoint tip() const
+    {
+        const QRect box = bubblePath().boundingRect().toRect();
+        for (int i = 0; i < bubblePath().elementCount(); ++i) {
+            const QPoint point = QPointF(bubblePath().elementAt(i)).toPoint();
+            const bool isOut = (pinAlignment() == Qt::AlignTop && point.y() == box.top()) ||
+                               (pinAlignment() == Qt::AlignBottom && point.y() == box.top() + box.height()) ||
+                               (pinAlignment() == Qt::AlignLeft && point.x() == box.left()) ||
+                               (pinAlignment() == Qt::AlignRight && point.x() == box.left() + box.width());
+            if (isOut)
+                return mapToGlobal(point);
+        }
+        return QPoint();
+    }
+};
+
+} // namespace
+
+void tst_BubbleWidget::marginsMakeRoomForPin_data()
+{
+    QTest::addColumn<Qt::Alignment>("alignment");
+    QTest::addColumn<QRect>("contents"); // of a bubble of 100 x 100
+    QTest::newRow("top") << Qt::Alignment(Qt::AlignTop) << QRect(5, 17, 90, 78);
+    QTest::newRow("bottom") << Qt::Alignment(Qt::AlignBottom) << QRect(5, 5, 90, 78);
+    QTest::newRow("left") << Qt::Alignment(Qt::AlignLeft) << QRect(17, 5, 78, 90);
+    QTest::newRow("right") << Qt::Alignment(Qt::AlignRight) << QRect(5, 5, 78, 90);
+    QTest::newRow("several") << (Qt::AlignBottom | Qt::AlignRight) << QRect(5, 5, 90, 78);
+    QTest::newRow("none") << kNone << QRect(8, 8, 84, 64);
+}
+
+void tst_BubbleWidget::marginsMakeRoomForPin()
+{
+    QFETCH(Qt::Alignment, alignment);
+    Bubble bubble;
+    bubble.setMargin(5);
+    bubble.setPinHeight(12);
+    bubble.resize(100, 100);
+    QCOMPARE(bubble.contentsRect(), QRect(8, 8, 84, 64));
+    bubble.setPinAlignment(alignment);
+    QCOMPARE(bubble.pinAlignment(), alignment);
+    QTEST(bubble.contentsRect(), "contents");
+}
+
+void tst_BubbleWidget::sideIsChosen_data()
+{
+    QTest::addColumn<Qt::Alignment>("current");
+    QTest::addColumn<QRect>("target"); // on a screen of 1000 x 500, for a bubble of 200 x 100
+    QTest::addColumn<Qt::Alignment>("side");
+    const Qt::Alignment top = Qt::AlignTop, bottom = Qt::AlignBottom, left = Qt::AlignLeft,
+                        right = Qt::AlignRight;
+    QTest::newRow("current fits") << left << QRect(400, 200, 10, 10) << left;
+    QTest::newRow("several, first fits") << (left | bottom) << QRect(400, 200, 10, 10) << bottom;
+    QTest::newRow("just fits above") << bottom << QRect(400, 100, 10, 10) << bottom;
+    QTest::newRow("just too high") << bottom << QRect(400, 99, 10, 10) << top;
+    QTest::newRow("just fits below") << top << QRect(400, 390, 10, 10) << top;
+    QTest::newRow("just too low") << top << QRect(400, 391, 10, 10) << bottom;
+    QTest::newRow("just fits on the right") << left << QRect(790, 0, 10, 10) << left;
+    QTest::newRow("just too far right") << left << QRect(791, 0, 10, 10) << right;
+    QTest::newRow("just fits on the left") << right << QRect(200, 0, 10, 10) << right;
+    QTest::newRow("just too far left") << right << QRect(199, 0, 10, 10) << left;
+    QTest::newRow("as high as the screen") << bottom << QRect(400, 0, 10, 500) << left;
+    QTest::newRow("as high, at the right") << bottom << QRect(900, 0, 10, 500) << right;
+    QTest::newRow("as wide as the screen") << left << QRect(0, 300, 1000, 10) << top;
+    QTest::newRow("none so far") << kNone << QRect(400, 450, 10, 10) << bottom;
+    QTest::newRow("everything covered") << bottom << QRect(0, 0, 1000, 500) << kNone;
+}
+
+void tst_BubbleWidget::sideIsChosen()
+{
+    QFETCH(Qt::Alignment, current);
+    QFETCH(QRect, target);
+    QTEST(choosePinSide(current, target, QRect(0, 0, 1000, 500), QSize(200, 100)), "side");
+}
+
+void tst_BubbleWidget::outlineIsClosedPolygon_data()
+{
+    QTest::addColumn<Qt::Alignment>("side");
+    QTest::addColumn<QString>(
+        "polygon"); // of a bubble of 104 x 84 with a pin of 10 x 20, 8 right of or below its middle
+    QTest::newRow("top") << Qt::Alignment(Qt::AlignTop) << "2,22 55,22 60,17 65,22 102,22 102,82 2,82";
+    QTest::newRow("bottom") << Qt::Alignment(Qt::AlignBottom) << "2,2 102,2 102,62 65,62 60,67 55,62 2,62";
+    QTest::newRow("left") << Qt::Alignment(Qt::AlignLeft) << "22,2 102,2 102,82 22,82 22,55 17,50 22,45";
+    QTest::newRow("right") << Qt::Alignment(Qt::AlignRight) << "2,2 82,2 82,45 87,50 82,55 82,82 2,82";
+    QTest::newRow("none") << kNone << "2,2 102,2 102,82 2,82";
+}
+
+void tst_BubbleWidget::outlineIsClosedPolygon()
+{
+    QFETCH(Qt::Alignment, side);
+    const BubbleShape shape = {0, 10, 20, 8};
+    const QPainterPath path = bubbleOutline(QRectF(2, 2, 100, 80), side, shape);
+    QStringList points;
+    for (int i = 0; i < path.elementCount(); ++i)
+        points.append(latin1("%1,%2").arg(path.elementAt(i).x).arg(path.elementAt(i).y));
+    QCOMPARE(points.takeLast(), points.first());
+    QTEST(points.join(latin1(" ")), "polygon");
+}
+
+void tst_BubbleWidget::cornersAreRound()
+{
+    Bubble bubble;
+    bubble.resize(104, 84);
+    const QPainterPath path = bubble.bubblePath();
+    QCOMPARE(path.boundingRect(), QRectF(2, 2, 100, 75));
+    QCOMPARE(QPointF(path.elementAt(0)), QPointF(2, 6));
+    for (const QPointF& corner : {QPointF(2, 2), QPointF(102, 2), QPointF(102, 62), QPointF(2, 62)}) {
+        const QPointF inwards(corner.x() < 50 ? 1 : -1, corner.y() < 30 ? 1 : -1);
+        QVERIFY(!path.contains(corner + inwards));
+        QVERIFY(path.contains(corner + 1.5 * inwards));
+    }
+}
+
+void tst_BubbleWidget::pinStaysOffCorners_data()
+{
+    QTest::addColumn<int>("pinOffset");
+    QTest::addColumn<int>("pinWidth");
+    QTest::addColumn<qreal>("tip");
+    QTest::newRow("middle") << 0 << 31 << qreal(50);
+    QTest::newRow("right of it") << 20 << 30 << qreal(70);
+    QTest::newRow("far right") << 90 << 30 << qreal(100 - 15 - 8);
+    QTest::newRow("far left") << -90 << 30 << qreal(15 + 8);
+    QTest::newRow("wider than the bubble") << 0 << 120 << qreal(60 + 8);
+}
+
+void tst_BubbleWidget::pinStaysOffCorners()
+{
+    QFETCH(int, pinOffset);
+    QFETCH(int, pinWidth);
+    QFETCH(qreal, tip);
+    const BubbleShape shape = {8, pinWidth, 20, pinOffset};
+    const QPainterPath path = bubbleOutline(QRectF(0, 0, 100, 80), Qt::AlignTop, shape);
+    bool found = false;
+    for (int i = 0; i < path.elementCount(); ++i)
+        found |= QPointF(path.elementAt(i)) == QPointF(tip, 20 - pinWidth / 2);
+    QVERIFY(found);
+}
+
+void tst_BubbleWidget::popsUpNearEveryEdge_data()
+{
+    QTest::addColumn<int>("screen");
+    QTest::addColumn<QPointF>("place"); // of the target on the screen: (0, 0) top left, (1, 1) bottom right
+    QTest::addColumn<Qt::Alignment>("side");
+    const Qt::Alignment top = Qt::AlignTop, bottom = Qt::AlignBottom;
+    for (int screen = 0; screen < Screens::count(); ++screen) {
+        for (const qreal x : {0.0, 0.5, 1.0}) {
+            for (const qreal y : {0.0, 0.5, 1.0}) {
+                const QString name = latin1("screen %1: %2, %3").arg(screen).arg(x).arg(y);
+                QTest::newRow(name.toLatin1()) << screen << QPointF(x, y) << (y == 0.0 ? top : bottom);
+            }
+        }
+    }
+}
+
+void tst_BubbleWidget::popsUpNearEveryEdge()
+{
+    QFETCH(int, screen);
+    QFETCH(QPointF, place);
+    const QRect available = Screens::availableGeometry(screen);
+    QWidget target(nullptr, Qt::ToolTip);
+    target.setGeometry(available.left() + qRound(place.x() * (available.width() - 20)),
+                       available.top() + qRound(place.y() * (available.height() - 20)), 20, 20);
+    target.show();
+    Bubble bubble;
+    (new QVBoxLayout(&bubble))->addWidget(new QLabel(latin1("A bubble with two lines\nof text")));
+    // Twice, as a bubble that is kept for the next time.
+    for (int time = 0; time < 2; ++time) {
+        bubble.popup(&target);
+        WAIT_FOR(bubble.hasFocus());
+        QTEST(bubble.pinAlignment(), "side");
+        const QRect frame = bubble.geometry();
+        QVERIFY(available.contains(frame));
+        const bool isBelow = bubble.pinAlignment() == Qt::AlignTop;
+        QCOMPARE(isBelow ? frame.top() : frame.top() + frame.height(),
+                 isBelow ? target.geometry().bottom() : target.y());
+        // As near to the target's middle as the rounded corner lets it.
+        const QPoint middle = centreOf(target.geometry());
+        const int nearest = frame.left() + 2 + 8 + 15;
+        const int farthest = frame.left() + frame.width() - 2 - 8 - 15;
+        QVERIFY(qAbs(bubble.tip().x() - qBound(nearest, middle.x(), farthest)) <= 1);
+        bubble.hide();
+    }
+}
+
+void tst_BubbleWidget::withoutRoomCoversTarget()
+{
+    Bubble bubble;
+    bubble.setFixedSize(300, 200);
+    const QRect available = Screens::availableGeometry(0);
+    const QMargins margins = bubble.contentsMargins();
+    bubble.popup(available);
+    QCOMPARE(bubble.pinAlignment(), kNone);
+    QCOMPARE(bubble.contentsMargins(), margins);
+    QCOMPARE(bubble.pos(), centreOf(available));
+    bubble.popup(available.topLeft() + QPoint(400, 300));
+    QCOMPARE(bubble.pinAlignment(), Qt::Alignment(Qt::AlignTop));
+}
+
+void tst_BubbleWidget::cutShapeIsFilled_data()
+{
+    QTest::addColumn<int>("cornerRadius");
+    QTest::addColumn<int>("borderWidth");
+    QTest::newRow("round") << 8 << 1;
+    QTest::newRow("very round") << 60 << 1;
+    QTest::newRow("plain corners") << 0 << 1;
+    QTest::newRow("wide border") << 20 << 4;
+}
+
+// A pixel that is left transparent is black on such a desktop.
+void tst_BubbleWidget::cutShapeIsFilled()
+{
+    if (isDesktopComposited())
+        NORVANE_SKIP("needs a desktop without compositing");
+    QFETCH(int, cornerRadius);
+    QFETCH(int, borderWidth);
+    Bubble bubble;
+    bubble.setCornerRadius(cornerRadius);
+    bubble.setBorderWidth(borderWidth);
+    bubble.setFixedSize(160, 120);
+    bubble.popup(Screens::availableGeometry(0).center());
+    const QRegion shape = bubble.mask();
+    const QImage image = grabPixmap(&bubble).toImage();
+    int count = 0;
+    for (int y = 0; y < 120; ++y) {
+        for (int x = 0; x < 160; ++x) {
+            if (shape.contains(QPoint(x, y))) {
+                ++count;
+                QVERIFY2(qAlpha(image.pixel(x, y)) > 200, qPrintable(latin1("%1, %2").arg(x).arg(y)));
+            }
+        }
+    }
+    QVERIFY(count > 10000);
+    QVERIFY(!shape.contains(QPoint(0, 0)));
+}
+
+void tst_BubbleWidget::isDraggedIfMovable_data()
+{
+    QTest::addColumn<bool>("movable");
+    QTest::newRow("movable") << true;
+    QTest::newRow("fixed") << false;
+}
+
+void tst_BubbleWidget::isDraggedIfMovable()
+{
+    QFETCH(bool, movable);
+    Bubble bubble;
+    bubble.setFixedSize(160, 120);
+    bubble.setMovable(movable);
+    bubble.popup(Screens::availableGeometry(0).center());
+    const QPoint before = bubble.pos();
+    QTest::mousePress(&bubble, Qt::LeftButton, Qt::NoModifier, QPoint(40, 30));
+    const QPoint mouse(47, 19);
+    QMouseEvent drag(QEvent::MouseMove, mouse, bubble.mapToGlobal(mouse), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&bubble, &drag);
+    QCOMPARE(bubble.pos() - before, movable ? QPoint(7, -11) : QPoint(0, 0));
+    QTest::mousePress(&bubble, Qt::LeftButton, Qt::NoModifier, QPoint(-40, 30));
+    QVERIFY(!bubble.isVisible());
+}
+
+QTEST_MAIN(tst_BubbleWidget)
+#include "tst_BubbleWidget.moc"

@@ -1,0 +1,306 @@
+#include <ui/widgets/DisclosureButton.h>
+
+#include <tests/support/Waiting.h>
+#include <ui/toolkit/Painting.h>
+#include <ui/widgets/DisclosableWidget.h>
+
+#include <QImage>
+#include <QPointer>
+
+#include <type_traits>
+#include <vector>
+
+using namespace Norvane::UI;
+
+class tst_DisclosureButton : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void addedWidgetIsShownOrHidden_data();
+    void addedWidgetIsShownOrHidden();
+    void buttonTakesGroupAlong();
+    void nestOpensTheSameAtAnyAddress_data();
+    void nestOpensTheSameAtAnyAddress();
+    void nestedButtonsUpdateInOrderAdded();
+    void widgetInTwoGroups();
+    void removedWidgetIsLeftAlone();
+    void triangleIsPainted_data();
+    void triangleIsPainted();
+};
+
+namespace {
+
+/// A widget that is shown when all its buttons are checked and it wants to.
+class Section : public QWidget, public DisclosableWidget
+{
+public:
+    using QWidget::QWidget;
+    bool isShownWhenDisclosed() const override { return wanted && isDisclosed(); }
+
+    bool wanted = true;
+};
+
+/// A button as a form has it.
+class Button : public DisclosureButton
+{
+public:
+    explicit Button(QWidget* parent, bool showAddedWidgets = true)
+        : DisclosureButton(parent, showAddedWidgets)
+    {
+        setChecked(true);
+        connect(this, SIGNAL(toggled(bool)), this, SLOT(showOrHideWidgets()));
+    }
+};
+
+void click(Button* button)
+{
+    QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(8, 7));
+}
+
+/// Places for widgets, so that a test decides which has the lower address.
+class Places
+{
+public:
+    ~Places()
+    {
+        for (QWidget* const widget : m_widgets)
+            widget->~QWidget();
+    }
+
+    template <class Widget>
+    Widget* make(int place, QWidget* parent)
+    {
+        static_assert(sizeof(Widget) <= sizeof(Place), "too large");
+        Widget* const widget = new (&m_places[place]) Widget(parent);
+        m_widgets.push_back(widget);
+        return widget;
+    }
+
+private:
+    using Place = std::aligned_storage<256>::type;
+    Place m_places[8];
+    std::vector<QWidget*> m_widgets;
+};
+
+QString visibleOf(const QList<QWidget*>& widgets)
+{
+    QString marks;
+    for (const QWidget* widget : widgets)
+        marks.append(QLatin1Char(widget->isVisible() ? '1' : '0'));
+    return marks;
+}
+
+} // namespace
+
+void tst_DisclosureButton::addedWidgetIsShownOrHidden_data()
+{
+    QTest::addColumn<bool>("checked");
+    QTest::addColumn<bool>("showAddedWidgets");
+    QTest::addColumn<bool>("wanted");
+    QTest::addColumn<bool>("visible");
+    QTest::addColumn<bool>("sectionVisible");
+    QTest::newRow("open") << true << true << true << true << true;
+    QTest::newRow("open, unwanted") << true << true << false << true << false;
+    QTest::newRow("open, later") << true << false << true << false << false;
+    QTest::newRow("closed") << false << true << true << false << false;
+    QTest::newRow("closed, later") << false << false << true << false << false;
+}
+
+void tst_DisclosureButton::addedWidgetIsShownOrHidden()
+{
+    QFETCH(bool, checked);
+    QFETCH(bool, showAddedWidgets);
+    QWidget form;
+    QWidget plain(&form);
+    Section section(&form);
+    Button button(&form, showAddedWidgets);
+    button.setChecked(checked);
+    QFETCH(bool, wanted);
+    section.wanted = wanted;
+    form.show();
+    button.addWidget(&plain);
+    button.addWidget(&section);
+    QTEST(plain.isVisible(), "visible");
+    QTEST(section.isVisible(), "sectionVisible");
+    QCOMPARE(section.isDisclosed(), checked);
+    click(&button);
+    QCOMPARE(plain.isVisible(), !checked);
+    QCOMPARE(section.isVisible(), !checked && wanted);
+}
+
+void tst_DisclosureButton::buttonTakesGroupAlong()
+{
+    QWidget form;
+    Button outer(&form);
+    Button inner(&form);
+    QWidget widget(&form);
+    Section section(&form);
+    form.show();
+    outer.addWidget(&inner);
+    inner.addWidget(&widget);
+    inner.addWidget(&section);
+    const QList<QWidget*> all = QList<QWidget*>() << &inner << &widget << &section;
+    QCOMPARE(visibleOf(all), QString::fromLatin1("111"));
+    outer.hide();
+    QCOMPARE(visibleOf(all), QString::fromLatin1("000"));
+    outer.show();
+    QCOMPARE(visibleOf(all), QString::fromLatin1("111"));
+    click(&inner);
+    click(&outer);
+    click(&outer);
+    QCOMPARE(visibleOf(all), QString::fromLatin1("100"));
+}
+
+void tst_DisclosureButton::nestOpensTheSameAtAnyAddress_data()
+{
+    QTest::addColumn<QString>(
+        "places"); // of outer, middle and inner button, of a widget and one in two groups
+    QTest::newRow("outside in") << "01234";
+    QTest::newRow("inside out") << "43210";
+    QTest::newRow("widgets first") << "23401";
+    QTest::newRow("buttons crossed") << "21043";
+    QTest::newRow("shared in the middle") << "34102";
+}
+
+void tst_DisclosureButton::nestOpensTheSameAtAnyAddress()
+{
+    QFETCH(QString, places);
+    const auto place = [&](int index) { return places[index].digitValue(); };
+    QWidget form;
+    Places memory;
+    Button* const outer = memory.make<Button>(place(0), &form);
+    Button* const middle = memory.make<Button>(place(1), &form);
+    Button* const inner = memory.make<Button>(place(2), &form);
+    QWidget* const widget = memory.make<QWidget>(place(3), &form);
+    Section* const shared = memory.make<Section>(place(4), &form);
+    form.show();
+    outer->addWidget(middle);
+    outer->addWidget(shared);
+    middle->addWidget(widget);
+    middle->addWidget(inner);
+    inner->addWidget(widget);
+    inner->addWidget(shared);
+    const QList<QWidget*> all = QList<QWidget*>() << middle << inner << widget << shared;
+    QCOMPARE(visibleOf(all), QString::fromLatin1("1111"));
+    click(outer);
+    QCOMPARE(visibleOf(all), QString::fromLatin1("0000"));
+    click(outer);
+    QCOMPARE(visibleOf(all), QString::fromLatin1("1111"));
+    click(inner);
+    click(outer);
+    click(outer);
+    QCOMPARE(visibleOf(all), QString::fromLatin1("1100"));
+    click(middle);
+    inner->setChecked(true);
+    click(outer);
+    click(outer);
+    // Every button of the shared section is checked, though one is not to be seen.
+    QCOMPARE(visibleOf(all), QString::fromLatin1("1001"));
+}
+
+// A plain widget in a closed and an open group of the same nest is as the button added last wants it.
+void tst_DisclosureButton::nestedButtonsUpdateInOrderAdded()
+{
+    for (int closedPlace = 0; closedPlace < 3; closedPlace += 2) {
+        QWidget form;
+        Places memory;
+        Button* const closed = memory.make<Button>(closedPlace, &form);
+        Button* const open = memory.make<Button>(1, &form);
+        QWidget widget(&form);
+        Button outer(&form);
+        form.show();
+        outer.addWidget(closed);
+        outer.addWidget(open);
+        open->addWidget(&widget);
+        closed->addWidget(&widget);
+        click(closed);
+        click(&outer);
+        click(&outer);
+        QVERIFY(widget.isVisible());
+    }
+}
+
+// A plain widget is as the button updated last wants it, a section is shown if both are checked.
+void tst_DisclosureButton::widgetInTwoGroups()
+{
+    QWidget form;
+    Button first(&form);
+    Button second(&form);
+    QWidget plain(&form);
+    Section section(&form);
+    form.show();
+    for (Button* const button : {&first, &second}) {
+        button->addWidget(&plain);
+        button->addWidget(&section);
+    }
+    for (int state = 0; state < 4; ++state) {
+        first.setChecked(state & 1);
+        second.setChecked(state & 2);
+        first.showOrHideWidgets();
+        second.showOrHideWidgets();
+        QCOMPARE(plain.isVisible(), second.isChecked());
+        QCOMPARE(section.isVisible(), state == 3);
+        QCOMPARE(section.isDisclosed(), state == 3);
+    }
+}
+
+void tst_DisclosureButton::removedWidgetIsLeftAlone()
+{
+    QWidget form;
+    Button button(&form);
+    QWidget* const deleted = new QWidget(&form);
+    Section section(&form);
+    QWidget twice(&form);
+    form.show();
+    for (QWidget* const widget : {deleted, static_cast<QWidget*>(&section), &twice, &twice})
+        button.addWidget(widget);
+    button.removeWidget(&section);
+    button.removeWidget(&twice);
+    button.removeWidget(&form);
+    delete deleted;
+    click(&button);
+    QVERIFY(section.isVisible());
+    QVERIFY(section.isDisclosed());
+    QVERIFY(!twice.isVisible());
+}
+
+void tst_DisclosureButton::triangleIsPainted_data()
+{
+    QTest::addColumn<bool>("checked");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QColor>("triangleColor");
+    QTest::addColumn<QColor>("colour");
+    QTest::newRow("open") << true << true << QColor() << QColor(Qt::black);
+    QTest::newRow("closed") << false << true << QColor() << QColor(Qt::black);
+    QTest::newRow("open, disabled") << true << false << QColor(Qt::red) << QColor(Qt::yellow);
+    QTest::newRow("closed, disabled") << false << false << QColor() << QColor(Qt::yellow);
+    QTest::newRow("chosen colour") << true << true << QColor(Qt::red) << QColor(Qt::red);
+}
+
+void tst_DisclosureButton::triangleIsPainted()
+{
+    QFETCH(bool, checked);
+    QFETCH(bool, enabled);
+    QFETCH(QColor, triangleColor);
+    QFETCH(QColor, colour);
+    QWidget window;
+    QPalette palette(Qt::magenta);
+    palette.setColor(QPalette::Disabled, QPalette::Light, Qt::yellow);
+    window.setPalette(palette);
+    DisclosureButton button(&window, true);
+    button.setLayoutDirection(Qt::RightToLeft);
+    button.resize(60, 40);
+    button.setChecked(checked);
+    button.setEnabled(enabled);
+    button.setTriangleColor(triangleColor);
+
+    const QImage image = grabPixmap(&window).toImage();
+    const QColor ground = window.palette().color(QPalette::Window);
+    QCOMPARE(QColor(image.pixel(6, 5)), colour);
+    QCOMPARE(QColor(image.pixel(11, 3)), checked ? colour : ground);
+    QCOMPARE(QColor(image.pixel(5, 9)), checked ? ground : colour);
+    QCOMPARE(QColor(image.pixel(14, 7)), ground);
+}
+
+QTEST_MAIN(tst_DisclosureButton)
+#include "tst_DisclosureButton.moc"

@@ -1,0 +1,216 @@
+#include <ui/widgets/SearchField.h>
+
+#include <tests/support/Desk.h>
+#include <ui/widgets/FlatButton.h>
+
+#include <QLabel>
+#include <QSignalSpy>
+
+using namespace NorvaneTest;
+using namespace Norvane::UI;
+
+class tst_SearchField : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void controlsFollowTextAndFocus_data();
+    void controlsFollowTextAndFocus();
+    void textFromCodeWaitsForFocus();
+    void cancelButtonClears();
+    void cancelButtonStays();
+    void textMarginsMakeRoom_data();
+    void textMarginsMakeRoom();
+    void controlsArePlaced_data();
+    void controlsArePlaced();
+    void deletedByItsCancelButton();
+};
+
+namespace {
+
+/// A window with a search field and another one to take the focus away.
+struct Form {
+    Form()
+    {
+        window.setGeometry(100, 100, 300, 120);
+        field.setGeometry(10, 10, 200, 28);
+        other.setGeometry(10, 60, 200, 28);
+        field.setPrompt(latin1("Search"));
+        field.setHasCancelButton(true);
+        prompt = field.findChild<QLabel*>();
+        cancel = field.findChild<FlatButton*>();
+    }
+
+    bool focus(QWidget* widget)
+    {
+        widget->setFocus();
+        return Desk::activate(&window) && waitUntil([&] { return widget->hasFocus(); });
+    }
+
+    /// What is to be seen in the field: "p" the prompt, "c" the cancel button.
+    QString controls() const
+    {
+        return latin1(prompt->isVisible() ? "p" : "") + latin1(cancel->isVisible() ? "c" : "");
+    }
+
+    QWidget window;
+    SearchField field{&window};
+    QLineEdit other{&window};
+    QLabel* prompt;
+    FlatButton* cancel;
+};
+
+} // namespace
+
+void tst_SearchField::controlsFollowTextAndFocus_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("focused");
+    QTest::addColumn<QString>("controls");
+    QTest::newRow("empty") << "" << false << "p";
+    QTest::newRow("empty, focused") << "" << true << "";
+    QTest::newRow("text") << "abc" << false << "";
+    QTest::newRow("text, focused") << "abc" << true << "c";
+}
+
+void tst_SearchField::controlsFollowTextAndFocus()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, focused);
+    Form form;
+    QVERIFY(form.focus(&form.field));
+    QTest::keyClicks(&form.field, text);
+    if (!focused) {
+        QTest::keyClick(&form.field, Qt::Key_Tab);
+        WAIT_FOR(form.other.hasFocus());
+    }
+    QTEST(form.controls(), "controls");
+}
+
+void tst_SearchField::textFromCodeWaitsForFocus()
+{
+    Form form;
+    QVERIFY(form.focus(&form.other));
+    form.field.setText(latin1("abc"));
+    QCOMPARE(form.controls(), latin1("p"));
+    QTest::mouseClick(&form.field, Qt::LeftButton);
+    WAIT_FOR(form.field.hasFocus());
+    QCOMPARE(form.controls(), latin1("c"));
+}
+
+void tst_SearchField::cancelButtonClears()
+{
+    Form form;
+    QVERIFY(form.focus(&form.field));
+    QTest::keyClicks(&form.field, latin1("abc"));
+    QSignalSpy pressed(&form.field, SIGNAL(cancelPressed()));
+    QSignalSpy edited(&form.field, SIGNAL(textEdited(QString)));
+    QTest::mouseClick(form.cancel, Qt::LeftButton);
+    QCOMPARE(form.field.text(), QString());
+    QCOMPARE(int(pressed.size()), 1);
+    QCOMPARE(int(edited.size()), 0);
+    QVERIFY(form.field.hasFocus());
+    QCOMPARE(form.controls(), QString());
+}
+
+void tst_SearchField::cancelButtonStays()
+{
+    SearchField field(nullptr);
+    field.setHasCancelButton(false);
+    QVERIFY(!field.hasCancelButton());
+    field.setHasCancelButton(true);
+    field.setHasCancelButton(true);
+    field.setHasCancelButton(false);
+    QVERIFY(field.hasCancelButton());
+    QCOMPARE(int(field.findChildren<FlatButton*>().size()), 1);
+}
+
+void tst_SearchField::textMarginsMakeRoom_data()
+{
+    QTest::addColumn<int>("leftWidth"); // 0: no left widget
+    QTest::addColumn<bool>("cancels");
+    QTest::addColumn<int>("left");
+    QTest::addColumn<int>("right");
+    QTest::newRow("nothing") << 0 << false << 6 << 8;
+    QTest::newRow("cancel button") << 0 << true << 6 << 20;
+    QTest::newRow("left widget") << 18 << false << 25 << 8;
+    QTest::newRow("both") << 18 << true << 25 << 20;
+}
+
+void tst_SearchField::textMarginsMakeRoom()
+{
+    QFETCH(int, leftWidth);
+    QFETCH(bool, cancels);
+    SearchField field(nullptr);
+    QWidget menu(&field);
+    menu.resize(leftWidth, 10);
+    if (leftWidth > 0)
+        field.setLeftWidget(&menu);
+    field.setHasCancelButton(cancels);
+    QFETCH(int, left);
+    QFETCH(int, right);
+    QCOMPARE(field.textMargins(), QMargins(left, 0, right, 0));
+    field.setLeftWidget(nullptr);
+    QCOMPARE(field.textMargins(), QMargins(6, 0, right, 0));
+}
+
+void tst_SearchField::controlsArePlaced_data()
+{
+    QTest::addColumn<bool>("hasLeftWidget");
+    QTest::addColumn<int>("pointSize");
+    QTest::addColumn<bool>("shownFirst");
+    QTest::newRow("plain") << false << 10 << false;
+    QTest::newRow("left widget") << true << 10 << false;
+    QTest::newRow("large font") << true << 30 << false;
+    // No layout would resize the field for them.
+    QTest::newRow("decorated after it was shown") << true << 10 << true;
+}
+
+void tst_SearchField::controlsArePlaced()
+{
+    QFETCH(bool, hasLeftWidget);
+    QFETCH(int, pointSize);
+    QFETCH(bool, shownFirst);
+    QWidget window;
+    QLineEdit other(&window);
+    other.setFocus();
+    SearchField field(&window);
+    field.resize(200, 61);
+    if (shownFirst)
+        QVERIFY(Desk::activate(&window));
+    QWidget menu(&field);
+    menu.setFixedSize(18, 12);
+    if (hasLeftWidget)
+        field.setLeftWidget(&menu);
+    field.setPrompt(latin1("Find"));
+    field.setPrompt(latin1("A longer prompt"));
+    field.setHasCancelButton(true);
+    QVERIFY(Desk::activate(&window));
+    QFont font = field.font();
+    font.setPointSize(pointSize);
+    field.setFont(font);
+
+    const QLabel* const prompt = field.findChild<QLabel*>();
+    WAIT_FOR(prompt->y() == (61 - prompt->height()) / 2);
+    QCOMPARE(prompt->size(), prompt->sizeHint());
+    QCOMPARE(prompt->x(), hasLeftWidget ? 27 : 7);
+    const QRect cancel = field.findChild<FlatButton*>()->geometry();
+    QCOMPARE(cancel, QRect(field.rect().right() - 5 - 13, 23, 14, 14));
+    if (hasLeftWidget)
+        QCOMPARE(menu.geometry(), QRect(6, 24, 18, 12));
+}
+
+void tst_SearchField::deletedByItsCancelButton()
+{
+    QWidget window;
+    QPointer<SearchField> field = new SearchField(&window);
+    field->setHasCancelButton(true);
+    connect(field, SIGNAL(cancelPressed()), field, SLOT(deleteLater()));
+    QVERIFY(Desk::activate(&window));
+    field->setFocus();
+    QTest::keyClicks(field, latin1("abc"));
+    QTest::mouseClick(field->findChild<FlatButton*>(), Qt::LeftButton);
+    WAIT_FOR(!field);
+}
+
+QTEST_MAIN(tst_SearchField)
+#include "tst_SearchField.moc"

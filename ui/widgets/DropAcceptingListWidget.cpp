@@ -1,0 +1,12 @@
+#include <ui/widgets/DropAcceptingListWidget.h>
+
+namespace Norvane { namespace UI {
+
+DropAcceptingListWidget::DropAcceptingListWidget(QWidget* parent)
+    : DropAcceptingWidget<QListWidget>(parent)
+{
+}
+
+DropAcceptingListWidget::~DropAcceptingListWidget() = default;
+
+}} // namespace Norvane::UI

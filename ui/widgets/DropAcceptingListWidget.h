@@ -1,0 +1,24 @@
+#pragma once
+
+#include <NorvaneCoreExport.h>
+#include <ui/widgets/DropAcceptingWidget.h>
+
+#include <QListWidget>
+
+namespace Norvane { namespace UI {
+
+/// A list onto which files can be dropped from the desktop or a file manager, once setAcceptsDropsFlags() has
+/// been given AcceptUrls. What becomes of them is the host's affair: the list adds no items by itself.
+class NORVANE_CORE_EXPORT DropAcceptingListWidget : public DropAcceptingWidget<QListWidget>
+{
+    Q_OBJECT
+public:
+    explicit DropAcceptingListWidget(QWidget* parent);
+    ~DropAcceptingListWidget() override;
+
+Q_SIGNALS:
+    /// URLs were dropped: their local paths in the order in which they came, empty for what is no local file.
+    void droppedUrls(const QStringList& paths);
+};
+
+}} // namespace Norvane::UI
