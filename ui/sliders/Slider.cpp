@@ -1,6 +1,7 @@
 #include <ui/sliders/Slider.h>
 
 #include <ui/sliders/SliderPrivate.h>
+#include <ui/toolkit/AccessibleValue.h>
 
 #include <cmath>
 
@@ -23,6 +24,7 @@ Slider::Slider(ValueType type, SliderMode mode, Qt::Orientation orientation, QWi
     : QWidget(parent)
     , d(new Private(this))
 {
+    Private::installAccessible();
     const bool isInteger = type == IntegerValue;
     d->value = isInteger ? 0.0 : 0.5;
     d->maximum = isInteger ? 100.0 : 1.0;
@@ -122,6 +124,7 @@ void Slider::setValue(double value)
         return;
     d->value = wanted;
     update();
+    reportAccessibleValue(this, wanted);
 }
 
 void Slider::setMode(SliderMode mode)

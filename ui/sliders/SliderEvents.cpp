@@ -3,6 +3,7 @@
 #include <ui/sliders/Slider.h>
 
 #include <ui/sliders/SliderPrivate.h>
+#include <ui/toolkit/AccessibleValue.h>
 #include <ui/toolkit/Events.h>
 
 #include <QKeyEvent>
@@ -138,6 +139,7 @@ void Slider::Private::moveTo(double newValue)
         return;
     value = newValue;
     q->update();
+    reportAccessibleValue(q, newValue);
     const QPointer<Slider> self(q);
     Q_EMIT q->valueChanged(newValue);
     if (self)

@@ -18,6 +18,8 @@ struct Slider::Private {
     {
     }
 
+    static void installAccessible();
+
     SliderScale scale() const;
     void rangeHasChanged();
 
