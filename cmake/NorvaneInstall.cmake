@@ -28,6 +28,8 @@ set(public_headers
     ui/docking/SnappableWindow.h
     ui/docking/TitleBarButton.h
     ui/docking/WidgetUtils.h
+    ui/sliders/LogSlider.h
+    ui/sliders/Slider.h
     ui/toolkit/Events.h
     ui/widgets/BubbleWidget.h
     ui/widgets/DisclosableWidget.h

@@ -218,22 +218,14 @@ void HostWindow::arrange(Arrangement arrangement)
 {
     ArrangedPanels panels;
     panels.viewers = idsToArrange(PanelRegistry::ViewerKind);
-    panels.pictures = idsToArrange(PanelRegistry::PicturesKind) + openIds(PanelRegistry::FilesKind) +
-                      openIds(PanelRegistry::InspectorKind);
+    panels.pictures = idsToArrange(PanelRegistry::PicturesKind);
+    // They share the pane of the pictures.
+    for (const PanelRegistry::Kind kind :
+         {PanelRegistry::FilesKind, PanelRegistry::InspectorKind, PanelRegistry::ControlsKind})
+        panels.pictures += openIds(kind);
     panels.notes = idsToArrange(PanelRegistry::NotesKind);
     panels.currentViewer = m_activeViewer ? m_activeViewer->objectName() : panels.viewers.first();
     restoreSafely(arrangementDocument(arrangement, panels, place()), tr("The arrangement"));
-}
-
-QStringList HostWindow::openIds(PanelRegistry::Kind kind) const
-{
-    const QStringList all = m_panels.ids(kind);
-    QStringList open;
-    for (const QString& id : all) {
-        if (UI::Dock::dockForWidget(m_panels.find(id)))
-            open.append(id);
-    }
-    return open;
 }
 
 QStringList HostWindow::idsToArrange(PanelRegistry::Kind kind)
@@ -243,6 +235,17 @@ QStringList HostWindow::idsToArrange(PanelRegistry::Kind kind)
         return open;
     const QStringList all = m_panels.ids(kind);
     return all.isEmpty() ? QStringList(m_panels.createPanel(kind)->objectName()) : all;
+}
+
+QStringList HostWindow::openIds(PanelRegistry::Kind kind) const
+{
+    QStringList open;
+    const QStringList all = m_panels.ids(kind);
+    for (const QString& id : all) {
+        if (UI::Dock::dockForWidget(m_panels.find(id)))
+            open.append(id);
+    }
+    return open;
 }
 
 MainWindowPlace HostWindow::place() const

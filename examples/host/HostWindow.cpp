@@ -1,6 +1,7 @@
 #include "HostWindow.h"
 
 #include "ControlHelp.h"
+#include "ControlsPanel.h"
 #include "FilesPanel.h"
 #include "InspectorPanel.h"
 #include "NotesPanel.h"
@@ -68,6 +69,10 @@ void HostWindow::connectPanel(QWidget* panel)
         updateInspectors();
     } else if (qobject_cast<NotesPanel*>(panel)) {
         connect(panel, SIGNAL(textReplaced(QString)), this, SLOT(keepText(QString)));
+    } else if (ControlsPanel* const controls = qobject_cast<ControlsPanel*>(panel)) {
+        connect(this, SIGNAL(focusedViewerChanged(Norvane::Host::ViewerPanel*)), controls,
+                SLOT(setViewer(Norvane::Host::ViewerPanel*)));
+        controls->setViewer(focusedViewer());
     }
 }
 
@@ -82,16 +87,34 @@ void HostWindow::tidyUp()
     if (m_restoring)
         return;
     m_panels.deleteClosedPanels();
-    updateTitle();
+    viewerMayHaveChanged();
 }
 
 void HostWindow::panelActivated(Dock*, QWidget* panel)
 {
     if (ViewerPanel* const viewer = qobject_cast<ViewerPanel*>(panel)) {
         m_activeViewer = viewer;
-        updateTitle();
-        updateInspectors();
+        viewerMayHaveChanged();
     }
+}
+
+ViewerPanel* HostWindow::focusedViewer() const
+{
+    if (Dock::dockForWidget(m_activeViewer))
+        return m_activeViewer;
+    const QList<ViewerPanel*> viewers = m_panels.viewers();
+    for (ViewerPanel* const viewer : viewers) {
+        if (Dock::dockForWidget(viewer))
+            return viewer;
+    }
+    return nullptr;
+}
+
+void HostWindow::viewerMayHaveChanged()
+{
+    updateTitle();
+    updateInspectors();
+    Q_EMIT focusedViewerChanged(focusedViewer());
 }
 
 void HostWindow::focusMoved(QWidget*, QWidget* to)
@@ -109,8 +132,7 @@ void HostWindow::pictureChanged()
     m_pictures.addPicture(viewer->picturePath());
     if (Dock* const pane = Dock::dockForWidget(viewer))
         pane->updateTitles();
-    updateTitle();
-    updateInspectors();
+    viewerMayHaveChanged();
 }
 
 void HostWindow::updateTitle()
@@ -123,10 +145,11 @@ void HostWindow::updateTitle()
 
 void HostWindow::updateInspectors()
 {
+    const ViewerPanel* const viewer = focusedViewer();
     const QList<InspectorPanel*> inspectors = m_panels.inspectors();
     for (InspectorPanel* const inspector : inspectors) {
-        if (m_activeViewer)
-            inspector->setPicture(m_activeViewer->picturePath(), m_activeViewer->picture());
+        if (viewer)
+            inspector->setPicture(viewer->picturePath(), viewer->picture());
         else
             inspector->setPicture(QString(), QImage());
     }
@@ -201,6 +224,11 @@ void HostWindow::newInspector()
     addPanel(m_panels.createPanel(PanelRegistry::InspectorKind), paneForPanels());
 }
 
+void HostWindow::newControls()
+{
+    addPanel(m_panels.createPanel(PanelRegistry::ControlsKind), paneForControls());
+}
+
 void HostWindow::reopenNotes(QAction* action)
 {
     const QString id = action->data().toString();
@@ -234,6 +262,13 @@ Dock* HostWindow::paneForPanels()
     Dock* const pane = createDock();
     addWidget(pane);
     return pane;
+}
+
+// Not in front of the viewer that they act on.
+Dock* HostWindow::paneForControls()
+{
+    Dock* const pane = findDockByName(QLatin1String("Pictures."), false, true);
+    return pane ? pane : paneForPanels();
 }
 
 Dock* HostWindow::paneForViewers()

@@ -36,6 +36,14 @@ public:
 
     QWidget* createPage(QString& id) override;
 
+    /// The viewer that last had the keyboard focus, which panels with controls act on. Another one if that is
+    /// in no pane any more; null if there is none.
+    ViewerPanel* focusedViewer() const;
+
+Q_SIGNALS:
+    /// Another viewer is the focused one, or it shows another picture. Null for none.
+    void focusedViewerChanged(Norvane::Host::ViewerPanel* viewer);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -52,6 +60,7 @@ private Q_SLOTS:
     void newNotes();
     void newFiles();
     void newInspector();
+    void newControls();
     void fillNotesMenu();
     void reopenNotes(QAction* action);
 
@@ -91,17 +100,19 @@ private:
     void restoreKeptTexts();
 
     void arrange(Arrangement arrangement);
-    QStringList openIds(PanelRegistry::Kind kind) const;
     /// Never empty: one is made if there is none.
     QStringList idsToArrange(PanelRegistry::Kind kind);
+    QStringList openIds(PanelRegistry::Kind kind) const;
     MainWindowPlace place() const;
 
     void addPanel(QWidget* panel, UI::Dock* pane);
     void showPanel(QWidget* panel);
     UI::Dock* paneForPanels();
+    UI::Dock* paneForControls();
     UI::Dock* paneForViewers();
     void updateTitle();
     void updateInspectors();
+    void viewerMayHaveChanged();
 
     PictureList m_pictures;
     PanelRegistry m_panels;

@@ -1,5 +1,6 @@
 #include "PanelRegistry.h"
 
+#include "ControlsPanel.h"
 #include "FilesPanel.h"
 #include "InspectorPanel.h"
 #include "NotesPanel.h"
@@ -14,8 +15,8 @@ namespace Norvane { namespace Host {
 namespace {
 
 /// By Kind.
-const char* const kKindNames[] = {"Viewer", "Pictures", "Notes", "Files", "Inspector"};
-const int kKindCount = sizeof kKindNames / sizeof *kKindNames;
+const char* const kKindNames[] = {"Viewer", "Pictures", "Notes", "Files", "Inspector", "Controls"};
+const int kKindCount = sizeof kKindNames / sizeof kKindNames[0];
 
 template <class Panel>
 QList<Panel*> panelsOfType(const QMap<int, QPointer<QWidget>>& panels)
@@ -153,6 +154,9 @@ QWidget* PanelRegistry::create(Kind kind, int number)
         break;
     case InspectorKind:
         panel = new InspectorPanel(number);
+        break;
+    case ControlsKind:
+        panel = new ControlsPanel(m_pictures, number);
         break;
     }
     panel->setObjectName(idText(kind, number));
