@@ -34,6 +34,7 @@ set(public_headers
     ui/docking/SnappableWindow.h
     ui/docking/TitleBarButton.h
     ui/docking/WidgetUtils.h
+    ui/sliders/LogSlider.h
     ui/sliders/Slider.h
     ui/toolkit/Events.h)
 foreach(header IN LISTS public_headers)

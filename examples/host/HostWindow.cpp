@@ -70,15 +70,33 @@ void HostWindow::tidyUp()
     if (m_restoring)
         return;
     m_panels.deleteClosedPanels();
-    updateTitle();
+    viewerMayHaveChanged();
 }
 
 void HostWindow::panelActivated(Dock*, QWidget* panel)
 {
     if (ViewerPanel* const viewer = qobject_cast<ViewerPanel*>(panel)) {
         m_activeViewer = viewer;
-        updateTitle();
+        viewerMayHaveChanged();
     }
+}
+
+ViewerPanel* HostWindow::focusedViewer() const
+{
+    if (Dock::dockForWidget(m_activeViewer))
+        return m_activeViewer;
+    const QList<ViewerPanel*> viewers = m_panels.viewers();
+    for (ViewerPanel* const viewer : viewers) {
+        if (Dock::dockForWidget(viewer))
+            return viewer;
+    }
+    return nullptr;
+}
+
+void HostWindow::viewerMayHaveChanged()
+{
+    updateTitle();
+    Q_EMIT focusedViewerChanged(focusedViewer());
 }
 
 void HostWindow::focusMoved(QWidget*, QWidget* to)
@@ -96,7 +114,7 @@ void HostWindow::pictureChanged()
     m_pictures.addPicture(viewer->picturePath());
     if (Dock* const pane = Dock::dockForWidget(viewer))
         pane->updateTitles();
-    updateTitle();
+    viewerMayHaveChanged();
 }
 
 void HostWindow::updateTitle()

@@ -35,6 +35,14 @@ public:
 
     QWidget* createPage(QString& id) override;
 
+    /// The viewer that last had the keyboard focus, which panels with controls act on. Another one if that is
+    /// in no pane any more; null if there is none.
+    ViewerPanel* focusedViewer() const;
+
+Q_SIGNALS:
+    /// Another viewer is the focused one, or it shows another picture. Null for none.
+    void focusedViewerChanged(Norvane::Host::ViewerPanel* viewer);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -95,6 +103,7 @@ private:
     UI::Dock* paneForPanels();
     UI::Dock* paneForViewers();
     void updateTitle();
+    void viewerMayHaveChanged();
 
     PictureList m_pictures;
     PanelRegistry m_panels;

@@ -13,6 +13,7 @@ namespace {
 
 /// By Kind.
 const char* const kKindNames[] = {"Viewer", "Pictures", "Notes"};
+const int kKindCount = sizeof kKindNames / sizeof kKindNames[0];
 
 template <class Panel>
 QList<Panel*> panelsOfType(const QMap<int, QPointer<QWidget>>& panels)
@@ -111,7 +112,7 @@ bool PanelRegistry::readId(const QString& text, Id* id)
 {
     const int dot = int(text.lastIndexOf(QLatin1Char('.')));
     const QString kind = text.left(qMax(0, dot));
-    for (int i = ViewerKind; i <= NotesKind; ++i) {
+    for (int i = 0; i < kKindCount; ++i) {
         if (kind != QLatin1String(kKindNames[i]))
             continue;
         id->kind = Kind(i);

@@ -74,6 +74,19 @@ void PictureView::setZoom(qreal zoom, const QPointF& center)
     viewHasChanged();
 }
 
+const PictureGrade& PictureView::grade() const
+{
+    return m_grade;
+}
+
+void PictureView::setGrade(const PictureGrade& grade)
+{
+    if (grade == m_grade)
+        return;
+    m_grade = grade;
+    update();
+}
+
 QSize PictureView::sizeHint() const
 {
     return QSize(480, 320);
@@ -88,17 +101,22 @@ void PictureView::fitToView()
 
 void PictureView::showOneToOne()
 {
-    zoomAround(QRectF(rect()).center(), 1);
+    zoomTo(1);
+}
+
+void PictureView::zoomTo(qreal zoom)
+{
+    zoomAround(QRectF(rect()).center(), zoom);
 }
 
 void PictureView::zoomIn()
 {
-    zoomAround(QRectF(rect()).center(), zoom() * kZoomStep);
+    zoomTo(zoom() * kZoomStep);
 }
 
 void PictureView::zoomOut()
 {
-    zoomAround(QRectF(rect()).center(), zoom() / kZoomStep);
+    zoomTo(zoom() / kZoomStep);
 }
 
 Placement PictureView::placement() const

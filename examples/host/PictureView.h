@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PictureGeometry.h"
+#include "PictureGrade.h"
 
 #include <QImage>
 #include <QList>
@@ -33,6 +34,10 @@ public:
     /// Also ends fitting.
     void setZoom(qreal zoom, const QPointF& center);
 
+    /// How the picture is changed for the eye; picture() stays as it is.
+    const PictureGrade& grade() const;
+    void setGrade(const PictureGrade& grade);
+
     QSize sizeHint() const override;
 
 public Q_SLOTS:
@@ -40,6 +45,8 @@ public Q_SLOTS:
     void showOneToOne();
     void zoomIn();
     void zoomOut();
+    /// Around the middle of the view.
+    void zoomTo(qreal zoom);
 
 Q_SIGNALS:
     /// Zoom, centre or the kind of fitting changed.
@@ -76,6 +83,7 @@ private:
     QImage m_picture;
     /// The picture in the format that is painted fastest, then halved and halved again, as far as was needed.
     QList<QImage> m_levels;
+    PictureGrade m_grade;
     QString m_title;
     QString m_detail;
     bool m_fitted = true;

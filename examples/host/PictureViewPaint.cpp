@@ -73,10 +73,10 @@ const QImage& PictureView::levelFor(qreal zoom)
 void PictureView::paintPicture(QPainter& painter)
 {
     const qreal density = UI::devicePixelRatio(this);
-    Placement place = placement();
+    Placement placed = placement();
     // On whole physical pixels, so that a picture shown one to one stays sharp.
-    place.origin = QPointF(roundedTo(place.origin.x(), density), roundedTo(place.origin.y(), density));
-    const QRectF whole = place.rect(m_picture.size());
+    placed.origin = QPointF(roundedTo(placed.origin.x(), density), roundedTo(placed.origin.y(), density));
+    const QRectF whole = placed.rect(m_picture.size());
     if (m_picture.hasAlphaChannel()) {
         painter.setBrushOrigin(whole.topLeft());
         painter.fillRect(whole & QRectF(rect()), QBrush(checkerTile()));
@@ -84,7 +84,11 @@ void PictureView::paintPicture(QPainter& painter)
     const QImage& level = levelFor(zoom());
     const QRect pixels = touchedPixels(whole, level.size(), rect());
     painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom() < kPixelZoom);
-    painter.drawImage(coveredPart(whole, level.size(), pixels), level, pixels);
+    const QRectF place = coveredPart(whole, level.size(), pixels);
+    if (m_grade.isNeutral())
+        painter.drawImage(place, level, pixels);
+    else
+        painter.drawImage(place, gradedImage(level.copy(pixels), m_grade));
 }
 
 void PictureView::paintMessage(QPainter& painter) const

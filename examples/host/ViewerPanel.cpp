@@ -63,6 +63,11 @@ ViewerPanel::ViewerPanel(int number, QWidget* parent)
     updateTexts();
 }
 
+PictureView* ViewerPanel::view() const
+{
+    return m_view;
+}
+
 QString ViewerPanel::picturePath() const
 {
     return m_path;

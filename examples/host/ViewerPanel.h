@@ -27,6 +27,9 @@ public:
     /// Fits the picture at \a path into the view.
     void openPicture(const QString& path);
 
+    /// The view, which controls grade and zoom.
+    PictureView* view() const;
+
     QString layoutState() const;
     void setLayoutState(const QString& text);
 

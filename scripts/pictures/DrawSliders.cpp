@@ -3,6 +3,7 @@
 //   draw_sliders FOLDER     writes FOLDER/sliders-light.png and FOLDER/sliders-dark.png
 
 #include <examples/host/Palettes.h>
+#include <ui/sliders/LogSlider.h>
 #include <ui/sliders/Slider.h>
 #include <ui/toolkit/Application.h>
 #include <ui/toolkit/Painting.h>
@@ -56,6 +57,17 @@ Slider* createSlider(const Example& example, Qt::Orientation orientation, QWidge
     return slider;
 }
 
+UI::LogSlider* createLogSlider(Qt::Orientation orientation, QWidget* parent)
+{
+    UI::LogSlider* const slider = new UI::LogSlider(orientation, parent);
+    slider->setRealRange(-2, 3, 100);
+    slider->setRealValue(30);
+    const QPalette palette = slider->palette();
+    slider->setExpTickColor(palette.color(QPalette::WindowText));
+    slider->setTickColor(palette.color(QPalette::Disabled, QPalette::WindowText));
+    return slider;
+}
+
 /// Every example lying, with its name, and standing.
 QWidget* createSheet()
 {
@@ -70,6 +82,9 @@ QWidget* createSheet()
         standing->setFixedWidth(44);
         grid->addWidget(standing, 0, 2 + row, count, 1);
     }
+    grid->addWidget(new QLabel(QLatin1String("LogSlider, 0.01 to 1000")), count, 0);
+    grid->addWidget(createLogSlider(Qt::Horizontal, sheet), count, 1);
+    grid->addWidget(createLogSlider(Qt::Vertical, sheet), 0, 2 + count, count + 1, 1);
     grid->setColumnMinimumWidth(1, 420);
     return sheet;
 }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QImage>
+
+namespace Norvane { namespace Host {
+
+/// How a picture is changed for the eye. It works on light: sRGB is undone before and done again afterwards.
+struct PictureGrade {
+    /// In stops: each doubles the light.
+    double exposure = 0;
+    /// Factors of the light of red, green and blue.
+    double gain[3] = {1, 1, 1};
+
+    bool operator==(const PictureGrade& other) const;
+    /// Whether it changes nothing.
+    bool isNeutral() const;
+};
+
+/// \a image, which is RGB32 or premultiplied ARGB32, graded; in the same format.
+QImage gradedImage(const QImage& image, const PictureGrade& grade);
+
+}} // namespace Norvane::Host
