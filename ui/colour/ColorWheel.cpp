@@ -5,6 +5,7 @@
 #include <colour/Color4.h>
 #include <ui/colour/ColorWheelPrivate.h>
 #include <ui/colour/FiniteNumbers.h>
+#include <ui/toolkit/AccessibleValue.h>
 
 #include <algorithm>
 #include <cmath>
@@ -46,6 +47,8 @@ void ColorWheel::init(Colour::TransformI* transform, const DisplayMode& mode)
         setFixedSize(kSmallSide, kSmallSide);
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     }
+    Private::installAccessible();
+    setAccessibleName(tr("Colour wheel"));
     setFocusPolicy(Qt::WheelFocus);
     setContextMenuPolicy(Qt::PreventContextMenu);
 }
@@ -53,8 +56,7 @@ void ColorWheel::init(Colour::TransformI* transform, const DisplayMode& mode)
 void ColorWheel::display(const Shown& next)
 {
     const Shown now = d->shown;
-    if (next.hue == now.hue && next.saturation == now.saturation && next.value == now.value &&
-        next.ringValue == now.ringValue)
+    if (next == now)
         return;
     const QRegion before = d->markRegion();
     d->shown = next;
@@ -62,6 +64,13 @@ void ColorWheel::display(const Shown& next)
         update();
     else
         update(before | d->markRegion());
+    reportAccessibleValue(this, double(getClampedHue()));
+}
+
+bool ColorWheel::Shown::operator==(const Shown& other) const
+{
+    return hue == other.hue && saturation == other.saturation && value == other.value &&
+           ringValue == other.ringValue;
 }
 
 void ColorWheel::setHue(float hue)

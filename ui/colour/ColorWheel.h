@@ -25,7 +25,8 @@ namespace UI {
 /// pans, the middle button zooms into a box (a click resets), and both together zoom. The arrow keys change
 /// hue and saturation, Page Up and Page Down the value.
 ///
-/// Only the user's edits are signalled.
+/// Only the user's edits are signalled. To assistive technology the wheel is a slider of its hue that reads
+/// out the whole colour.
 class NORVANE_CORE_EXPORT ColorWheel : public QWidget, public ColorControlWidget
 {
     Q_OBJECT
@@ -137,6 +138,7 @@ private:
     Shown draggedColor(const QPointF& point, bool isMove) const;
     Shown draggedInSquare(const QPointF& point, Qt::KeyboardModifiers modifiers) const;
     void editColor(const Shown& color);
+    void editAtOnce(const Shown& color);
     void dragZoom(const QPoint& position);
     void buildTexture();
 

@@ -251,8 +251,12 @@ void ColorWheel::keyPressEvent(QKeyEvent* event)
         QWidget::keyPressEvent(event);
         return;
     }
-    const Shown now = d->shown;
-    if (color.hue == now.hue && color.saturation == now.saturation && color.value == now.value)
+    editAtOnce(color);
+}
+
+void ColorWheel::editAtOnce(const Shown& color)
+{
+    if (color == d->shown)
         return;
     // In the order of a drag, so that a client need not know where an edit came from.
     const QPointer<ColorWheel> self(this);

@@ -17,6 +17,8 @@ struct ColorWheel::Shown {
     float saturation = 0.0f;
     float value = 1.0f;
     float ringValue = 1.0f;
+
+    bool operator==(const Shown& other) const;
 };
 
 struct ColorWheel::Private {
@@ -50,6 +52,8 @@ struct ColorWheel::Private {
         : wheel(owner)
     {
     }
+
+    static void installAccessible();
 
     WheelGeometry measures() const;
     /// In radians.
