@@ -1,5 +1,6 @@
 #include "HostWindow.h"
 
+#include "ColourPanel.h"
 #include "NotesPanel.h"
 #include "Pictures.h"
 #include "PicturesPanel.h"
@@ -56,6 +57,10 @@ void HostWindow::connectPanel(QWidget* panel)
         connect(panel, SIGNAL(pictureChosen(QString)), this, SLOT(openPicture(QString)));
     } else if (qobject_cast<NotesPanel*>(panel)) {
         connect(panel, SIGNAL(textReplaced(QString)), this, SLOT(keepText(QString)));
+    } else if (ColourPanel* const colour = qobject_cast<ColourPanel*>(panel)) {
+        connect(this, SIGNAL(focusedViewerChanged(Norvane::Host::ViewerPanel*)), colour,
+                SLOT(setViewer(Norvane::Host::ViewerPanel*)));
+        colour->setViewer(focusedViewer());
     }
 }
 
@@ -182,6 +187,11 @@ void HostWindow::newPictures()
 void HostWindow::newNotes()
 {
     addPanel(m_panels.createPanel(PanelRegistry::NotesKind), paneForPanels());
+}
+
+void HostWindow::newColour()
+{
+    addPanel(m_panels.createPanel(PanelRegistry::ColourKind), paneForPanels());
 }
 
 void HostWindow::reopenNotes(QAction* action)

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void newViewer();
     void newPictures();
     void newNotes();
+    void newColour();
     void fillNotesMenu();
     void reopenNotes(QAction* action);
 

@@ -1,5 +1,6 @@
 #include "PanelRegistry.h"
 
+#include "ColourPanel.h"
 #include "NotesPanel.h"
 #include "PictureList.h"
 #include "PicturesPanel.h"
@@ -12,7 +13,7 @@ namespace Norvane { namespace Host {
 namespace {
 
 /// By Kind.
-const char* const kKindNames[] = {"Viewer", "Pictures", "Notes"};
+const char* const kKindNames[] = {"Viewer", "Pictures", "Notes", "Colour"};
 const int kKindCount = sizeof kKindNames / sizeof kKindNames[0];
 
 template <class Panel>
@@ -140,6 +141,9 @@ QWidget* PanelRegistry::create(Kind kind, int number)
         break;
     case NotesKind:
         panel = new NotesPanel(number);
+        break;
+    case ColourKind:
+        panel = new ColourPanel(number);
         break;
     }
     panel->setObjectName(idText(kind, number));
