@@ -57,6 +57,7 @@ void HostWindow::buildPanelsMenu()
     addEntry(menu, tr("New &Viewer"), SLOT(newViewer()));
     addEntry(menu, tr("New &Pictures"), SLOT(newPictures()));
     addEntry(menu, tr("New &Notes"), SLOT(newNotes()));
+    addEntry(menu, tr("New Contro&ls"), SLOT(newControls()));
     addEntry(menu, tr("New C&olour"), SLOT(newColour()));
     menu->addSeparator();
     m_notesMenu = menu->addMenu(tr("&Closed Notes"));

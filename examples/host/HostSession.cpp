@@ -219,6 +219,8 @@ void HostWindow::arrange(Arrangement arrangement)
     ArrangedPanels panels;
     panels.viewers = idsToArrange(PanelRegistry::ViewerKind);
     panels.pictures = idsToArrange(PanelRegistry::PicturesKind);
+    // They share the pane of the pictures.
+    panels.pictures += openIds(PanelRegistry::ControlsKind);
     panels.notes = idsToArrange(PanelRegistry::NotesKind);
     panels.currentViewer = m_activeViewer ? m_activeViewer->objectName() : panels.viewers.first();
     restoreSafely(arrangementDocument(arrangement, panels, place()), tr("The arrangement"));
@@ -226,15 +228,22 @@ void HostWindow::arrange(Arrangement arrangement)
 
 QStringList HostWindow::idsToArrange(PanelRegistry::Kind kind)
 {
+    const QStringList open = openIds(kind);
+    if (!open.isEmpty())
+        return open;
     const QStringList all = m_panels.ids(kind);
+    return all.isEmpty() ? QStringList(m_panels.createPanel(kind)->objectName()) : all;
+}
+
+QStringList HostWindow::openIds(PanelRegistry::Kind kind) const
+{
     QStringList open;
+    const QStringList all = m_panels.ids(kind);
     for (const QString& id : all) {
         if (UI::Dock::dockForWidget(m_panels.find(id)))
             open.append(id);
     }
-    if (!open.isEmpty())
-        return open;
-    return all.isEmpty() ? QStringList(m_panels.createPanel(kind)->objectName()) : all;
+    return open;
 }
 
 MainWindowPlace HostWindow::place() const

@@ -1,6 +1,7 @@
 #include "HostWindow.h"
 
 #include "ColourPanel.h"
+#include "ControlsPanel.h"
 #include "NotesPanel.h"
 #include "Pictures.h"
 #include "PicturesPanel.h"
@@ -57,6 +58,10 @@ void HostWindow::connectPanel(QWidget* panel)
         connect(panel, SIGNAL(pictureChosen(QString)), this, SLOT(openPicture(QString)));
     } else if (qobject_cast<NotesPanel*>(panel)) {
         connect(panel, SIGNAL(textReplaced(QString)), this, SLOT(keepText(QString)));
+    } else if (ControlsPanel* const controls = qobject_cast<ControlsPanel*>(panel)) {
+        connect(this, SIGNAL(focusedViewerChanged(Norvane::Host::ViewerPanel*)), controls,
+                SLOT(setViewer(Norvane::Host::ViewerPanel*)));
+        controls->setViewer(focusedViewer());
     } else if (ColourPanel* const colour = qobject_cast<ColourPanel*>(panel)) {
         connect(this, SIGNAL(focusedViewerChanged(Norvane::Host::ViewerPanel*)), colour,
                 SLOT(setViewer(Norvane::Host::ViewerPanel*)));
@@ -189,9 +194,14 @@ void HostWindow::newNotes()
     addPanel(m_panels.createPanel(PanelRegistry::NotesKind), paneForPanels());
 }
 
+void HostWindow::newControls()
+{
+    addPanel(m_panels.createPanel(PanelRegistry::ControlsKind), paneForControls());
+}
+
 void HostWindow::newColour()
 {
-    addPanel(m_panels.createPanel(PanelRegistry::ColourKind), paneForPanels());
+    addPanel(m_panels.createPanel(PanelRegistry::ColourKind), paneForControls());
 }
 
 void HostWindow::reopenNotes(QAction* action)
@@ -227,6 +237,13 @@ Dock* HostWindow::paneForPanels()
     Dock* const pane = createDock();
     addWidget(pane);
     return pane;
+}
+
+// Not in front of the viewer that they act on.
+Dock* HostWindow::paneForControls()
+{
+    Dock* const pane = findDockByName(QLatin1String("Pictures."), false, true);
+    return pane ? pane : paneForPanels();
 }
 
 Dock* HostWindow::paneForViewers()

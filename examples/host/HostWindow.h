@@ -57,6 +57,7 @@ private Q_SLOTS:
     void newViewer();
     void newPictures();
     void newNotes();
+    void newControls();
     void newColour();
     void fillNotesMenu();
     void reopenNotes(QAction* action);
@@ -97,11 +98,13 @@ private:
 
     void arrange(Arrangement arrangement);
     QStringList idsToArrange(PanelRegistry::Kind kind);
+    QStringList openIds(PanelRegistry::Kind kind) const;
     MainWindowPlace place() const;
 
     void addPanel(QWidget* panel, UI::Dock* pane);
     void showPanel(QWidget* panel);
     UI::Dock* paneForPanels();
+    UI::Dock* paneForControls();
     UI::Dock* paneForViewers();
     void updateTitle();
     void viewerMayHaveChanged();

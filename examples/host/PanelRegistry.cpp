@@ -1,6 +1,7 @@
 #include "PanelRegistry.h"
 
 #include "ColourPanel.h"
+#include "ControlsPanel.h"
 #include "NotesPanel.h"
 #include "PictureList.h"
 #include "PicturesPanel.h"
@@ -13,7 +14,7 @@ namespace Norvane { namespace Host {
 namespace {
 
 /// By Kind.
-const char* const kKindNames[] = {"Viewer", "Pictures", "Notes", "Colour"};
+const char* const kKindNames[] = {"Viewer", "Pictures", "Notes", "Controls", "Colour"};
 const int kKindCount = sizeof kKindNames / sizeof kKindNames[0];
 
 template <class Panel>
@@ -141,6 +142,9 @@ QWidget* PanelRegistry::create(Kind kind, int number)
         break;
     case NotesKind:
         panel = new NotesPanel(number);
+        break;
+    case ControlsKind:
+        panel = new ControlsPanel(m_pictures, number);
         break;
     case ColourKind:
         panel = new ColourPanel(number);

@@ -21,7 +21,7 @@ class PanelRegistry : public QObject
 {
     Q_OBJECT
 public:
-    enum Kind { ViewerKind, PicturesKind, NotesKind, ColourKind };
+    enum Kind { ViewerKind, PicturesKind, NotesKind, ControlsKind, ColourKind };
 
     /// \a pictures is shown by all panels with pictures and not owned.
     explicit PanelRegistry(PictureList* pictures, QObject* parent = nullptr);

@@ -1,15 +1,20 @@
+#include <examples/host/ControlsPanel.h>
 #include <examples/host/NotesPanel.h>
 #include <examples/host/PanelRegistry.h>
 #include <examples/host/PictureList.h>
+#include <examples/host/PictureView.h>
 #include <examples/host/ViewerPanel.h>
 #include <examples/host/ViewerState.h>
 
+#include <ui/sliders/LogSlider.h>
+#include <ui/sliders/Slider.h>
 #include <ui/toolkit/Painting.h>
 
 #include <QDir>
 #include <QImage>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QTemporaryFile>
 #include <QtTest>
 
 using namespace Norvane;
@@ -25,6 +30,7 @@ private Q_SLOTS:
     void viewerStateIsWrittenAsRead();
     void viewerKeepsStateOfMissingPicture();
     void viewerShowsPictureWhenSeen();
+    void controlsActOnTheirViewer();
     void notesKeepEveryCharacter_data();
     void notesKeepEveryCharacter();
     void replacedNotesAreReported();
@@ -104,6 +110,46 @@ void tst_HostPanels::viewerShowsPictureWhenSeen()
     QCOMPARE(shown.pixel(shown.width() / 2, shown.height() / 2 - 10), qRgb(10, 20, 30));
 }
 
+void tst_HostPanels::controlsActOnTheirViewer()
+{
+    QTemporaryFile first(QDir::temp().filePath(QLatin1String("tst_HostPanels-XXXXXX.png")));
+    QTemporaryFile second(first.fileTemplate());
+    QImage picture(40, 20, QImage::Format_RGB32);
+    picture.fill(qRgb(100, 100, 100));
+    QVERIFY(first.open() && second.open() && picture.save(&first, "PNG") && picture.save(&second, "PNG"));
+    first.flush();
+    second.flush();
+
+    PictureList pictures;
+    ControlsPanel controls(&pictures, 1);
+    const QScopedPointer<ViewerPanel> viewer(new ViewerPanel(1));
+    viewer->resize(400, 300);
+    viewer->show();
+    viewer->openPicture(first.fileName());
+    pictures.addPicture(first.fileName());
+    pictures.addPicture(second.fileName());
+    controls.setViewer(viewer.data());
+    const QList<UI::Slider*> sliders = controls.findChildren<UI::Slider*>();
+    UI::LogSlider* const zoom = controls.findChild<UI::LogSlider*>();
+
+    QTest::keyClick(sliders[0], Qt::Key_PageUp);
+    QCOMPARE(viewer->view()->grade().exposure, 1.0);
+    // sRGB's 100 is 0.127 of the light of white; twice that is 138.
+    const QImage shown = UI::grabPixmap(viewer.data()).toImage();
+    QCOMPARE(shown.pixel(shown.width() / 2, shown.height() / 2 - 10), qRgb(138, 138, 138));
+    QTest::keyClick(sliders[1], Qt::Key_Right);
+    QCOMPARE(QFileInfo(viewer->picturePath()), QFileInfo(second.fileName()));
+    zoom->setRealValue(10);
+    QCOMPARE(viewer->view()->zoom(), 10.0);
+    viewer->view()->zoomTo(1);
+    QCOMPARE(zoom->value(), 0);
+
+    controls.setViewer(nullptr);
+    QTest::keyClick(sliders[0], Qt::Key_Home);
+    QCOMPARE(viewer->view()->grade().exposure, 1.0);
+    QVERIFY(!sliders[0]->isEnabled());
+}
+
 void tst_HostPanels::notesKeepEveryCharacter_data()
 {
     QTest::addColumn<QString>("text");
@@ -142,6 +188,7 @@ void tst_HostPanels::idsNamePanels_data()
     QTest::addColumn<bool>("isId");
     QTest::newRow("viewer") << "Viewer.1" << true;
     QTest::newRow("pictures") << "Pictures.12" << true;
+    QTest::newRow("controls") << "Controls.2" << true;
     QTest::newRow("notes") << "Notes.3" << true;
     QTest::newRow("unknown kind") << "Scopes.1" << false;
     QTest::newRow("no number") << "Viewer." << false;
