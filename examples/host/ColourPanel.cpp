@@ -22,12 +22,14 @@ namespace {
 
 const double kMaxGain = 4;
 const int kSmallestWheel = 120;
+const QSize kStandingSlider(40, 100);
 
 /// Sliders take no keyboard focus by themselves.
 void prepare(ColorSlider* slider)
 {
     slider->setFocusPolicy(Qt::TabFocus);
-    slider->setToolTip(ColourPanel::tr("%1. With Control: back to the default.").arg(slider->accessibleName()));
+    slider->setToolTip(
+        ColourPanel::tr("%1. With Control: back to the default.").arg(slider->accessibleName()));
 }
 
 } // namespace
@@ -41,25 +43,25 @@ ColourPanel::ColourPanel(int number, QWidget* parent)
     m_control.setColorRGBA(1, 1, 1, 1);
     m_control.setDefaultColorRGBA(1, 1, 1, 1);
 
-    QHBoxLayout* const upper = new QHBoxLayout;
-    upper->addWidget(createWheel(), 1);
-    addStanding(upper, m_control.createVerticalValueSlider(), tr("V", "value"));
-    addStanding(upper, m_control.createVerticalTemperatureSlider(), tr("T", "temperature"));
-    addStanding(upper, m_control.createVerticalMagentaGreenSlider(), tr("M", "magenta-green"));
-    addStanding(upper, m_control.createVerticalIntensitySlider(), tr("I", "intensity"));
+    QHBoxLayout* const standing = new QHBoxLayout;
+    addStanding(standing, m_control.createVerticalValueSlider(), tr("V", "value"));
+    addStanding(standing, m_control.createVerticalTemperatureSlider(), tr("T", "temperature"));
+    addStanding(standing, m_control.createVerticalMagentaGreenSlider(), tr("M", "magenta-green"));
+    addStanding(standing, m_control.createVerticalIntensitySlider(), tr("I", "intensity"));
 
-    QGridLayout* const lower = new QGridLayout;
-    addLying(lower, m_control.createRedSlider(Qt::Horizontal));
-    addLying(lower, m_control.createGreenSlider(Qt::Horizontal));
-    addLying(lower, m_control.createBlueSlider(Qt::Horizontal));
-    addLying(lower, m_control.createAlphaSlider(Qt::Horizontal));
+    QGridLayout* const lying = new QGridLayout;
+    addLying(lying, m_control.createRedSlider(Qt::Horizontal));
+    addLying(lying, m_control.createGreenSlider(Qt::Horizontal));
+    addLying(lying, m_control.createBlueSlider(Qt::Horizontal));
+    addLying(lying, m_control.createAlphaSlider(Qt::Horizontal));
 
     QPushButton* const reset = new QPushButton(tr("&Reset"), this);
     connect(reset, SIGNAL(clicked()), this, SLOT(resetToDefault()));
 
     QVBoxLayout* const layout = new QVBoxLayout(this);
-    layout->addLayout(upper, 1);
-    layout->addLayout(lower);
+    layout->addWidget(createWheel(), 3);
+    layout->addLayout(standing, 2);
+    layout->addLayout(lying);
     layout->addWidget(reset, 0, Qt::AlignRight);
     setViewer(nullptr);
 }
@@ -87,7 +89,7 @@ void ColourPanel::addLying(QGridLayout* grid, ColorSlider* slider)
 void ColourPanel::addStanding(QBoxLayout* row, ColorSlider* slider, const QString& letter)
 {
     prepare(slider);
-    slider->setMinimumWidth(40);
+    slider->setMinimumSize(kStandingSlider);
     QLabel* const label = new QLabel(letter, this);
     label->setToolTip(slider->toolTip());
     QVBoxLayout* const column = new QVBoxLayout;
