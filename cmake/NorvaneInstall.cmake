@@ -15,6 +15,12 @@ set(public_headers
     colour/TransformI.h
     colour/YCbCrMatrix.h
     colour/YCbCrRows.h
+    ui/colour/ColorControl.h
+    ui/colour/ColorControlWidget.h
+    ui/colour/ColorSlider.h
+    ui/colour/ColorUIConstants.h
+    ui/colour/ColorWheel.h
+    ui/colour/IColorControlClient.h
     ui/docking/Dock.h
     ui/docking/DockMainWindow.h
     ui/docking/DockPlaceHolder.h

@@ -1,5 +1,6 @@
 #include "HostWindow.h"
 
+#include "ColourPanel.h"
 #include "ControlHelp.h"
 #include "ControlsPanel.h"
 #include "FilesPanel.h"
@@ -73,6 +74,10 @@ void HostWindow::connectPanel(QWidget* panel)
         connect(this, SIGNAL(focusedViewerChanged(Norvane::Host::ViewerPanel*)), controls,
                 SLOT(setViewer(Norvane::Host::ViewerPanel*)));
         controls->setViewer(focusedViewer());
+    } else if (ColourPanel* const colour = qobject_cast<ColourPanel*>(panel)) {
+        connect(this, SIGNAL(focusedViewerChanged(Norvane::Host::ViewerPanel*)), colour,
+                SLOT(setViewer(Norvane::Host::ViewerPanel*)));
+        colour->setViewer(focusedViewer());
     }
 }
 
@@ -227,6 +232,11 @@ void HostWindow::newInspector()
 void HostWindow::newControls()
 {
     addPanel(m_panels.createPanel(PanelRegistry::ControlsKind), paneForControls());
+}
+
+void HostWindow::newColour()
+{
+    addPanel(m_panels.createPanel(PanelRegistry::ColourKind), paneForControls());
 }
 
 void HostWindow::reopenNotes(QAction* action)

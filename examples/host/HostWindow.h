@@ -61,6 +61,7 @@ private Q_SLOTS:
     void newFiles();
     void newInspector();
     void newControls();
+    void newColour();
     void fillNotesMenu();
     void reopenNotes(QAction* action);
 

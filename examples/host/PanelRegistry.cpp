@@ -1,5 +1,6 @@
 #include "PanelRegistry.h"
 
+#include "ColourPanel.h"
 #include "ControlsPanel.h"
 #include "FilesPanel.h"
 #include "InspectorPanel.h"
@@ -15,7 +16,7 @@ namespace Norvane { namespace Host {
 namespace {
 
 /// By Kind.
-const char* const kKindNames[] = {"Viewer", "Pictures", "Notes", "Files", "Inspector", "Controls"};
+const char* const kKindNames[] = {"Viewer", "Pictures", "Notes", "Files", "Inspector", "Controls", "Colour"};
 const int kKindCount = sizeof kKindNames / sizeof kKindNames[0];
 
 template <class Panel>
@@ -157,6 +158,9 @@ QWidget* PanelRegistry::create(Kind kind, int number)
         break;
     case ControlsKind:
         panel = new ControlsPanel(m_pictures, number);
+        break;
+    case ColourKind:
+        panel = new ColourPanel(number);
         break;
     }
     panel->setObjectName(idText(kind, number));

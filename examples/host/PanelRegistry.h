@@ -22,7 +22,7 @@ class PanelRegistry : public QObject
 {
     Q_OBJECT
 public:
-    enum Kind { ViewerKind, PicturesKind, NotesKind, FilesKind, InspectorKind, ControlsKind };
+    enum Kind { ViewerKind, PicturesKind, NotesKind, FilesKind, InspectorKind, ControlsKind, ColourKind };
 
     /// \a pictures is shown by all panels with pictures and not owned.
     explicit PanelRegistry(PictureList* pictures, QObject* parent = nullptr);

@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QWheelEvent>
+#include <QWidget>
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 #include <QEnterEvent>
@@ -55,17 +56,30 @@ inline QPoint wheelPosition(const QWheelEvent* event)
     return event->position().toPoint();
 }
 
+/// The event of a wheel turned by \a delta, as wheelDelta() has it, at \a position in \a widget.
+inline QWheelEvent wheelTurn(const QWidget* widget, const QPoint& position, int delta)
+{
+    return QWheelEvent(position, widget->mapToGlobal(position), QPoint(), QPoint(0, delta), Qt::NoButton,
+                       Qt::NoModifier, Qt::NoScrollPhase, false);
+}
+
 #else
 
 /// How far the wheel was turned up or down, in eighths of a degree: 120 for one notch of a common mouse.
 inline int wheelDelta(const QWheelEvent* event)
 {
-    return event->delta();
+    return event->orientation() == Qt::Vertical ? event->delta() : 0;
 }
 
 inline QPoint wheelPosition(const QWheelEvent* event)
 {
     return event->pos();
+}
+
+/// The event of a wheel turned by \a delta, as wheelDelta() has it, at \a position in \a widget.
+inline QWheelEvent wheelTurn(const QWidget* widget, const QPoint& position, int delta)
+{
+    return QWheelEvent(position, widget->mapToGlobal(position), delta, Qt::NoButton, Qt::NoModifier);
 }
 
 #endif

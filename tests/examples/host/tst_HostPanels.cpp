@@ -1,3 +1,4 @@
+#include <examples/host/ColourPanel.h>
 #include <examples/host/ControlsPanel.h>
 #include <examples/host/NotesPanel.h>
 #include <examples/host/PanelRegistry.h>
@@ -6,6 +7,7 @@
 #include <examples/host/ViewerPanel.h>
 #include <examples/host/ViewerState.h>
 
+#include <ui/colour/ColorWheel.h>
 #include <ui/sliders/LogSlider.h>
 #include <ui/sliders/Slider.h>
 #include <ui/toolkit/Painting.h>
@@ -31,6 +33,7 @@ private Q_SLOTS:
     void viewerKeepsStateOfMissingPicture();
     void viewerShowsPictureWhenSeen();
     void controlsActOnTheirViewer();
+    void colourGradesItsViewer();
     void notesKeepEveryCharacter_data();
     void notesKeepEveryCharacter();
     void replacedNotesAreReported();
@@ -150,6 +153,29 @@ void tst_HostPanels::controlsActOnTheirViewer()
     QVERIFY(!sliders[0]->isEnabled());
 }
 
+void tst_HostPanels::colourGradesItsViewer()
+{
+    ViewerPanel first(1);
+    ViewerPanel second(2);
+    ColourPanel panel(1);
+    UI::ColorWheel* const wheel = panel.findChild<UI::ColorWheel*>();
+    QVERIFY(!panel.isEnabled());
+    panel.setViewer(&first);
+    QVERIFY(panel.isEnabled());
+    QTest::keyClick(wheel, Qt::Key_PageDown);
+    QCOMPARE(float(first.view()->grade().gain[2]), 0.9f);
+    panel.setViewer(&second);
+    float hue, saturation, value;
+    wheel->getHSV(hue, saturation, value);
+    QCOMPARE(value, 1.0f);
+    panel.setViewer(&first);
+    wheel->getHSV(hue, saturation, value);
+    QCOMPARE(value, 0.9f);
+    panel.resetToDefault();
+    QVERIFY(first.view()->grade().isNeutral());
+    QVERIFY(second.view()->grade().isNeutral());
+}
+
 void tst_HostPanels::notesKeepEveryCharacter_data()
 {
     QTest::addColumn<QString>("text");
@@ -189,6 +215,7 @@ void tst_HostPanels::idsNamePanels_data()
     QTest::newRow("viewer") << "Viewer.1" << true;
     QTest::newRow("pictures") << "Pictures.12" << true;
     QTest::newRow("controls") << "Controls.2" << true;
+    QTest::newRow("colour") << "Colour.1" << true;
     QTest::newRow("notes") << "Notes.3" << true;
     QTest::newRow("files") << "Files.1" << true;
     QTest::newRow("inspector") << "Inspector.2" << true;

@@ -1,0 +1,133 @@
+#include "ColourPanel.h"
+
+#include "PictureView.h"
+#include "ViewerPanel.h"
+
+#include <colour/Color4.h>
+#include <ui/colour/ColorSlider.h>
+#include <ui/colour/ColorWheel.h>
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace Norvane { namespace Host {
+
+using UI::ColorSlider;
+using UI::ColorWheel;
+
+namespace {
+
+const double kMaxGain = 4;
+const int kSmallestWheel = 120;
+const QSize kStandingSlider(40, 100);
+
+/// Sliders take no keyboard focus by themselves.
+void prepare(ColorSlider* slider)
+{
+    slider->setFocusPolicy(Qt::TabFocus);
+    slider->setToolTip(
+        ColourPanel::tr("%1. With Control: back to the default.").arg(slider->accessibleName()));
+}
+
+} // namespace
+
+ColourPanel::ColourPanel(int number, QWidget* parent)
+    : QWidget(parent)
+    , m_control(this)
+{
+    setWindowTitle(number > 1 ? tr("Colour %1").arg(number) : tr("Colour"));
+    m_control.setColorRange(0, kMaxGain);
+    m_control.setColorRGBA(1, 1, 1, 1);
+    m_control.setDefaultColorRGBA(1, 1, 1, 1);
+
+    QHBoxLayout* const standing = new QHBoxLayout;
+    addStanding(standing, m_control.createVerticalValueSlider(), tr("V", "value"));
+    addStanding(standing, m_control.createVerticalTemperatureSlider(), tr("T", "temperature"));
+    addStanding(standing, m_control.createVerticalMagentaGreenSlider(), tr("M", "magenta-green"));
+    addStanding(standing, m_control.createVerticalIntensitySlider(), tr("I", "intensity"));
+
+    QGridLayout* const lying = new QGridLayout;
+    addLying(lying, m_control.createRedSlider(Qt::Horizontal));
+    addLying(lying, m_control.createGreenSlider(Qt::Horizontal));
+    addLying(lying, m_control.createBlueSlider(Qt::Horizontal));
+    addLying(lying, m_control.createAlphaSlider(Qt::Horizontal));
+
+    QPushButton* const reset = new QPushButton(tr("&Reset"), this);
+    connect(reset, SIGNAL(clicked()), this, SLOT(resetToDefault()));
+
+    QVBoxLayout* const layout = new QVBoxLayout(this);
+    layout->addWidget(createWheel(), 3);
+    layout->addLayout(standing, 2);
+    layout->addLayout(lying);
+    layout->addWidget(reset, 0, Qt::AlignRight);
+    setViewer(nullptr);
+}
+
+QWidget* ColourPanel::createWheel()
+{
+    ColorWheel* const wheel = m_control.createColorWheel();
+    wheel->setDisplayMode(ColorWheel::kDisc);
+    wheel->setInteractionMode(ColorWheel::kAbsolute);
+    wheel->setZoomEnabled(true);
+    wheel->setMinimumSize(kSmallestWheel, kSmallestWheel);
+    wheel->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    wheel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    return wheel;
+}
+
+void ColourPanel::addLying(QGridLayout* grid, ColorSlider* slider)
+{
+    prepare(slider);
+    const int row = grid->rowCount();
+    grid->addWidget(new QLabel(slider->accessibleName(), this), row, 0);
+    grid->addWidget(slider, row, 1);
+}
+
+void ColourPanel::addStanding(QBoxLayout* row, ColorSlider* slider, const QString& letter)
+{
+    prepare(slider);
+    slider->setMinimumSize(kStandingSlider);
+    QLabel* const label = new QLabel(letter, this);
+    label->setToolTip(slider->toolTip());
+    QVBoxLayout* const column = new QVBoxLayout;
+    column->addWidget(slider, 1);
+    column->addWidget(label, 0, Qt::AlignHCenter);
+    row->addLayout(column);
+}
+
+void ColourPanel::setViewer(ViewerPanel* viewer)
+{
+    setEnabled(viewer != nullptr);
+    if (viewer == m_viewer)
+        return;
+    m_viewer = viewer;
+    if (!viewer)
+        return;
+    const double* const gain = viewer->view()->grade().gain;
+    m_control.setColorRGBA(float(gain[0]), float(gain[1]), float(gain[2]), 1);
+}
+
+void ColourPanel::resetToDefault()
+{
+    const Colour::Color4 color = m_control.getDefaultColor();
+    m_control.rgbaChanged(double(color.r), double(color.g), double(color.b), double(color.a));
+}
+
+void ColourPanel::colorChanged(float red, float green, float blue, float alpha)
+{
+    if (!m_viewer)
+        return;
+    const float gain[] = {red, green, blue};
+    PictureGrade grade = m_viewer->view()->grade();
+    for (int i = 0; i < 3; ++i)
+        grade.gain[i] = qMax(0.0, 1 + double(alpha) * (double(gain[i]) - 1));
+    m_viewer->view()->setGrade(grade);
+}
+
+// Nothing here can be undone but by Reset.
+void ColourPanel::dragStarted() {}
+
+}} // namespace Norvane::Host

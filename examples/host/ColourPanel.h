@@ -1,0 +1,41 @@
+#pragma once
+
+#include <ui/colour/ColorControl.h>
+#include <ui/colour/IColorControlClient.h>
+
+#include <QPointer>
+#include <QWidget>
+
+class QBoxLayout;
+class QGridLayout;
+
+namespace Norvane { namespace Host {
+
+class ViewerPanel;
+
+/// A panel that grades the picture of the focused viewer while its controls are dragged. The colour is the
+/// gain of the picture's light, white changes nothing; alpha is how much of it is applied.
+class ColourPanel : public QWidget, private UI::IColorControlClient
+{
+    Q_OBJECT
+public:
+    /// \a number tells several panels apart.
+    explicit ColourPanel(int number, QWidget* parent = nullptr);
+
+public Q_SLOTS:
+    /// Shows the gain of \a viewer and acts on it from now on. Null for no viewer.
+    void setViewer(Norvane::Host::ViewerPanel* viewer);
+    void resetToDefault();
+
+private:
+    void colorChanged(float red, float green, float blue, float alpha) override;
+    void dragStarted() override;
+    QWidget* createWheel();
+    void addLying(QGridLayout* grid, UI::ColorSlider* slider);
+    void addStanding(QBoxLayout* row, UI::ColorSlider* slider, const QString& letter);
+
+    UI::ColorControl m_control;
+    QPointer<ViewerPanel> m_viewer;
+};
+
+}} // namespace Norvane::Host

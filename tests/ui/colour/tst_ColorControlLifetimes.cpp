@@ -1,0 +1,241 @@
+// Views, control and client may end each other at any moment. AddressSanitizer sees what goes wrong.
+
+#include <ui/colour/ColorControl.h>
+
+#include <tests/ui/colour/Client.h>
+#include <tests/ui/colour/Hand.h>
+
+#include <QPointer>
+#include <QtTest>
+
+using namespace Norvane::UI;
+using namespace NorvaneTest;
+using Norvane::Colour::Color4;
+
+namespace {
+
+/// A host's own view.
+class View : public QWidget, public ColorControlWidget
+{
+public:
+    View()
+        : ColorControlWidget(this)
+    {
+    }
+    void updateFromControl() override
+    {
+        ++updates;
+        red = getColorFromControl().r;
+        if (onUpdate)
+            onUpdate();
+    }
+    void rangeChanged(double, double) override { ++ranges; }
+    void alphaEnabledChanged(bool) override {}
+
+    int updates = 0;
+    int ranges = 0;
+    float red = 0.0f;
+    std::function<void()> onUpdate;
+};
+
+/// A control with a wheel and two sliders, and a finger on one of them.
+struct Scene {
+    Scene()
+        : control(new ColorControl(&client))
+        , wheel(control->createColorWheel())
+        , red(control->createRedSlider(Qt::Horizontal))
+        , blue(control->createBlueSlider(Qt::Horizontal))
+    {
+        red->resize(200, 20);
+        blue->resize(200, 20);
+    }
+    ~Scene()
+    {
+        client.onChange = client.onDrag = nullptr;
+        delete wheel;
+        delete control;
+        delete red;
+        delete blue;
+    }
+    QWidget* touched(const QString& name) const
+    {
+        return name == QLatin1String("wheel") ? static_cast<QWidget*>(wheel) : red;
+    }
+    void remove(const QString& name)
+    {
+        if (name == QLatin1String("control"))
+            delete control;
+        else if (name == QLatin1String("wheel"))
+            delete wheel;
+        else if (name == QLatin1String("red"))
+            delete red;
+        else
+            delete blue;
+    }
+
+    Client client;
+    QPointer<ColorControl> control;
+    QPointer<ColorWheel> wheel;
+    QPointer<ColorSlider> red;
+    QPointer<ColorSlider> blue;
+};
+
+} // namespace
+
+class tst_ColorControlLifetimes : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void endsInAnyOrder_data();
+    void endsInAnyOrder();
+    void endsInsideClient_data();
+    void endsInsideClient();
+    void viewEndsOtherView();
+    void clientAnswersWithColor();
+    void viewJoinsAndLeaves();
+    void copyHasNoControl();
+};
+
+void tst_ColorControlLifetimes::endsInAnyOrder_data()
+{
+    QTest::addColumn<QString>("order");
+    QTest::newRow("control first") << "control wheel red blue";
+    QTest::newRow("control last") << "blue red wheel control";
+    QTest::newRow("control between") << "red control wheel blue";
+}
+
+void tst_ColorControlLifetimes::endsInAnyOrder()
+{
+    QFETCH(QString, order);
+    Scene scene;
+    for (const QString& name : order.split(QLatin1Char(' '))) {
+        scene.remove(name);
+        if (scene.control) {
+            scene.control->setColorRange(0, 2);
+            scene.control->redChanged(0.5);
+        }
+        if (scene.wheel)
+            scene.wheel->updateFromControl();
+        if (scene.red)
+            Hand(scene.red, QPoint(20, 10));
+    }
+}
+
+void tst_ColorControlLifetimes::endsInsideClient_data()
+{
+    QTest::addColumn<QString>("touched");
+    QTest::addColumn<QString>("ended");
+    for (const char* const touched : {"wheel", "red"}) {
+        for (const char* const ended : {"control", "wheel", "red", "blue"})
+            QTest::newRow((QByteArray(touched) + " ends " + ended).constData()) << touched << ended;
+    }
+}
+
+void tst_ColorControlLifetimes::endsInsideClient()
+{
+    QFETCH(QString, touched);
+    QFETCH(QString, ended);
+    for (const bool atStart : {true, false}) {
+        Scene scene;
+        std::function<void()>& reaction = atStart ? scene.client.onDrag : scene.client.onChange;
+        reaction = [&] { scene.remove(ended); };
+        Hand hand(scene.touched(touched), QPoint(60, 15));
+        hand.moveBy(15, 5);
+        QVERIFY(scene.client.drags == 1);
+        if (atStart && ended == QLatin1String("control"))
+            QCOMPARE(scene.client.changes, 0);
+    }
+}
+
+void tst_ColorControlLifetimes::viewEndsOtherView()
+{
+    Scene scene;
+    View view;
+    view.setControl(scene.control);
+    ColorSlider* const last = scene.control->createGreenSlider(Qt::Horizontal);
+    view.onUpdate = [&] {
+        delete last;
+        delete scene.wheel;
+        view.onUpdate = nullptr;
+    };
+    scene.control->redChanged(0.5);
+    QCOMPARE(scene.blue->value(), 0.0);
+    QCOMPARE(scene.client.changes, 1);
+    view.onUpdate = [&] { delete scene.control; };
+    scene.control->redChanged(0.25);
+    QCOMPARE(scene.client.changes, 1);
+}
+
+void tst_ColorControlLifetimes::clientAnswersWithColor()
+{
+    Scene scene;
+    scene.client.onChange = [&] { scene.control->setColorRGBA(0.75f, 0.5f, 0.25f, 1.0f); };
+    Hand hand(scene.red, QPoint(150, 10));
+    QCOMPARE(scene.client.changes, 1);
+    QCOMPARE(scene.red->value(), 0.75);
+    QCOMPARE(scene.blue->value(), 0.25);
+    // Also where the slider jumps to its default.
+    scene.client.onChange = [&] { scene.control->setColorRGBA(0.5f, 0.5f, 0.25f, 1.0f); };
+    hand.hold(Qt::ControlModifier);
+    hand.moveBy(1, 0);
+    QCOMPARE(scene.red->value(), 0.5);
+}
+
+void tst_ColorControlLifetimes::viewJoinsAndLeaves()
+{
+    ColorControl first(nullptr);
+    ColorControl second(nullptr);
+    View view;
+    QCOMPARE(view.getColorFromControl().a, 1.0f);
+    view.setControl(&first);
+    view.setControl(&first);
+    first.redChanged(0.5);
+    QCOMPARE(view.updates, 1);
+    QCOMPARE(view.red, 0.5f);
+    view.setControl(&second);
+    first.setColorRange(0, 1);
+    QCOMPARE(view.ranges, 0);
+    second.setColorRange(0, 1);
+    QCOMPARE(view.ranges, 1);
+    first.removeWidget(&view);
+    second.removeWidget(&view);
+    second.setColorRGBA(1.0f, 1.0f, 1.0f, 1.0f);
+    QCOMPARE(view.updates, 1);
+    QCOMPARE(view.getColorFromControl().r, 0.0f);
+
+    ColorSlider* const red = first.createRedSlider(Qt::Horizontal);
+    red->deregisterWithControl();
+    QVERIFY(QMetaObject::invokeMethod(red, "valueChanged", Q_ARG(double, 0.125)));
+    QCOMPARE(first.getColor().r, 0.5f);
+    delete red;
+}
+
+void tst_ColorControlLifetimes::copyHasNoControl()
+{
+    struct Proxy : public ColorControlWidget {
+        explicit Proxy(QWidget* widget)
+            : ColorControlWidget(widget)
+        {
+        }
+        void updateFromControl() override { ++updates; }
+        void rangeChanged(double, double) override {}
+        void alphaEnabledChanged(bool) override {}
+        int updates = 0;
+    };
+    QWidget widget;
+    ColorControl control(nullptr);
+    Proxy original(&widget);
+    original.setControl(&control);
+    Proxy copy(original);
+    Proxy other(&widget);
+    other.setControl(&control);
+    other = original;
+    control.setColorRGBA(0.5f, 0.5f, 0.5f, 1.0f);
+    QCOMPARE(original.updates, 1);
+    QCOMPARE(copy.updates, 0);
+    QCOMPARE(other.updates, 0);
+    QCOMPARE(original.getColorFromControl().r, 0.5f);
+}
+
+QTEST_MAIN(tst_ColorControlLifetimes)
+#include "tst_ColorControlLifetimes.moc"

@@ -1,0 +1,175 @@
+// Where the marks of a wheel are.
+
+#include <ui/colour/ColorWheelPrivate.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace Norvane { namespace UI {
+
+namespace {
+
+const double kTurn = 2.0 * 3.14159265358979323846;
+/// Around a mark: half of a pen, and what antialiasing adds.
+const int kMargin = 2;
+
+QPolygonF piecesOf(const QLineF& line)
+{
+    const int pieces = 8;
+    QPolygonF points;
+    for (int i = 0; i <= pieces; ++i)
+        points.append(line.pointAt(i / double(pieces)));
+    return points;
+}
+
+QPolygonF piecesOf(const QRectF& circle)
+{
+    const int pieces = 32;
+    // The middle of a piece bulges by half a percent of the radius: chords are laid half outside.
+    const double bulge = 1.0 - std::cos(kTurn / pieces / 2.0);
+    const double radius = circle.width() / 2.0 * (1.0 + bulge / 2.0);
+    QPolygonF points;
+    for (int i = 0; i <= pieces; ++i) {
+        const double angle = i * kTurn / pieces;
+        points.append(circle.center() + radius * QPointF(std::cos(angle), std::sin(angle)));
+    }
+    return points;
+}
+
+/// Collects where something is painted, in a widget of a certain height.
+class PaintedRegion
+{
+public:
+    explicit PaintedRegion(int height)
+        : m_height(height)
+    {
+    }
+    void add(const QRectF& mark)
+    {
+        // Wheel coordinates are counted from the bottom.
+        const QRectF inWidget(mark.left(), m_height - mark.bottom(), mark.width(), mark.height());
+        m_region |= inWidget.toAlignedRect().adjusted(-kMargin, -kMargin, kMargin, kMargin);
+    }
+    /// Piece by piece: together they are much smaller than the rectangle around all.
+    void addPieces(const QPolygonF& points)
+    {
+        for (int i = 1; i < int(points.size()); ++i)
+            add(QRectF(points[i - 1], points[i]).normalized());
+    }
+    QRegion region() const { return m_region; }
+
+private:
+    int m_height;
+    QRegion m_region;
+};
+
+} // namespace
+
+WheelGeometry ColorWheel::Private::measures() const
+{
+    WheelView view;
+    view.kind = displayMode == kValueRing  ? WheelView::kWithRing
+                : displayMode == kEmbedded ? WheelView::kSmall
+                                           : WheelView::kPlain;
+    view.size = wheel->size();
+    view.zoom = zoom;
+    view.pan = pan;
+    return measureWheel(view);
+}
+
+double ColorWheel::Private::angleOf(float hue) const
+{
+    return kTurn * hue + hueRotation;
+}
+
+bool ColorWheel::Private::isShadedOtherwise(const Shown& other) const
+{
+    switch (displayMode) {
+    case kInnerSquare:
+        return shown.hue != other.hue || (shown.value < 0.0f) != (other.value < 0.0f);
+    case kValueRing:
+        return false;
+    default:
+        return shown.value != other.value;
+    }
+}
+
+QPointF ColorWheel::Private::hueMark() const
+{
+    const WheelGeometry geometry = measures();
+    return geometry.pointAt(angleOf(shown.hue), geometry.radius);
+}
+
+QPointF ColorWheel::Private::saturationMark() const
+{
+    const WheelGeometry geometry = measures();
+    return geometry.pointAt(angleOf(shown.hue), shown.saturation * geometry.innerRadius);
+}
+
+QPointF ColorWheel::Private::squareMark() const
+{
+    const QRectF square = measures().innerSquare();
+    return square.topLeft() + QPointF(std::clamp(shown.saturation, 0.0f, 1.0f) * square.width(),
+                                      std::clamp(shown.value, 0.0f, 1.0f) * square.height());
+}
+
+QPolygonF ColorWheel::Private::hueTriangle() const
+{
+    return triangleMark(hueMark(), measures().centre);
+}
+
+QPolygonF ColorWheel::Private::ringTriangle() const
+{
+    const WheelGeometry geometry = measures();
+    return triangleMark(geometry.ringPoint(shown.ringValue), geometry.centre);
+}
+
+QLineF ColorWheel::Private::guideLine() const
+{
+    const WheelGeometry geometry = measures();
+    if (displayMode == kInnerSquare || !drag.has(kSaturationDrag))
+        return QLineF();
+    return QLineF(geometry.centre, geometry.pointAt(angleOf(shown.hue), geometry.innerRadius));
+}
+
+QRectF ColorWheel::Private::guideCircle() const
+{
+    const WheelGeometry geometry = measures();
+    const double radius = shown.saturation * geometry.innerRadius;
+    if (displayMode == kInnerSquare || !drag.has(kHueDrag) || radius <= std::numeric_limits<float>::epsilon())
+        return QRectF();
+    const QPointF corner(radius, radius);
+    return QRectF(geometry.centre - corner, geometry.centre + corner);
+}
+
+QRectF ColorWheel::Private::rubberBand() const
+{
+    if (displayMode == kInnerSquare || !drag.has(kBoxZoomDrag))
+        return QRectF();
+    const QPointF centre = measures().centre;
+    return QRectF(centre + drag.anchor, centre + drag.current).normalized();
+}
+
+QRegion ColorWheel::Private::markRegion() const
+{
+    const WheelGeometry geometry = measures();
+    if (!geometry.isUsable())
+        return QRegion();
+    const QPointF mark = displayMode == kInnerSquare ? squareMark() : saturationMark();
+    const QPolygonF triangle = displayMode == kValueRing ? ringTriangle() : hueTriangle();
+    PaintedRegion painted(wheel->height());
+    painted.add(circleMark(mark));
+    painted.add(triangle.boundingRect());
+    if (displayMode == kValueRing)
+        painted.add(circleMark(geometry.centre)); // the cross
+    if (!guideLine().isNull())
+        painted.addPieces(piecesOf(guideLine()));
+    if (!guideCircle().isNull())
+        painted.addPieces(piecesOf(guideCircle()));
+    if (!rubberBand().isNull())
+        painted.add(rubberBand());
+    return painted.region();
+}
+
+}} // namespace Norvane::UI

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <ui/colour/ColorWheel.h>
+#include <ui/colour/WheelGeometry.h>
+
+#include <QImage>
+#include <QPixmap>
+#include <QRegion>
+
+class QPainter;
+
+namespace Norvane { namespace UI {
+
+/// What the wheel shows of the colour.
+struct ColorWheel::Shown {
+    float hue = 0.0f; ///< in turns
+    float saturation = 0.0f;
+    float value = 1.0f;
+    float ringValue = 1.0f;
+
+    bool operator==(const Shown& other) const;
+};
+
+struct ColorWheel::Private {
+    /// From the press to the release of a mouse button.
+    struct Drag {
+        unsigned mode = 0;    ///< a set of DragMode, 0 for no drag
+        QPointF anchor;       ///< in wheel coordinates; for all but relative drags from the centre
+        QPointF current;      ///< the mouse, from the centre
+        QPoint pressPosition; ///< in the widget
+        float zoom = 1.0f;    ///< at the press, like the rest
+        double radius = 0.0;
+        Shown color;
+
+        bool has(unsigned modes) const { return (mode & modes) != 0; }
+    };
+
+    /// What the unchanging part of the picture depends on.
+    struct DiscKey {
+        DisplayMode mode;
+        QSize size;
+        float zoom;
+        QPointF pan;
+        float hueRotation;
+        qreal density;
+        QRgb window; ///< the colour around the wheel
+
+        bool operator==(const DiscKey& other) const;
+    };
+
+    explicit Private(ColorWheel* owner)
+        : wheel(owner)
+    {
+    }
+
+    static void installAccessible();
+
+    WheelGeometry measures() const;
+    /// In radians.
+    double angleOf(float hue) const;
+    /// Whether more than the marks must be painted for \a shown in place of \a other.
+    bool isShadedOtherwise(const Shown& other) const;
+    /// Middles of the marks, in wheel coordinates.
+    QPointF hueMark() const;
+    QPointF saturationMark() const;
+    QPointF squareMark() const;
+    QPolygonF hueTriangle() const;
+    QPolygonF ringTriangle() const;
+    /// Lines while hue or saturation are dragged; null if there are none.
+    QLineF guideLine() const;
+    QRectF guideCircle() const;
+    QRectF rubberBand() const;
+    /// Where all these are painted, in the widget.
+    QRegion markRegion() const;
+
+    void paintDisc(QPainter& painter);
+    void paintShade(QPainter& painter) const;
+    void paintSquare(QPainter& painter);
+    void paintCross(QPainter& painter) const;
+    void paintGuides(QPainter& painter) const;
+    void paintRubberBand(QPainter& painter) const;
+    void paintMark(QPainter& painter, const QPointF& middle) const;
+
+    ColorWheel* const wheel;
+    Colour::TransformI* transform = nullptr;
+    Shown shown;
+    DisplayMode displayMode = kDisc;
+    InteractionMode interactionMode = kAbsolute;
+    int sizeHintSide = 200;
+    bool zoomEnabled = true;
+    float zoom = 1.0f;
+    QPointF pan; ///< of the centre, in inner radii
+    float interactionScale = 0.1f;
+    float hueRotation = 0.0f;
+    Drag drag;
+    int wheelTurn = 0; ///< of the mouse wheel, less than a notch
+
+    /// Kept from one repaint to the next.
+    QPixmap discPixmap;
+    DiscKey discKey = DiscKey();
+    QImage squareImage;
+    float squareHue = 0.0f;
+
+private:
+    void drawDisc(QPainter& painter) const;
+    void drawRing(QPainter& painter) const;
+    void drawSquare(const QSize& size);
+};
+
+}} // namespace Norvane::UI
