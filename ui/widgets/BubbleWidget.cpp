@@ -168,7 +168,8 @@ void BubbleWidget::updateShape()
         QBitmap mask(size());
         mask.fill(Qt::color0);
         QPainter painter(&mask);
-        painter.setPen(outlinePen(Qt::color1, d->borderWidth));
+        // A line of odd width covers half a pixel on either side.
+        painter.setPen(outlinePen(Qt::color1, d->borderWidth + d->borderWidth % 2));
         painter.setBrush(Qt::color1);
         painter.drawPath(bubblePath());
         painter.end();

@@ -15,7 +15,6 @@ private Q_SLOTS:
     void dropIsReported_data();
     void dropIsReported();
     void moveLeavesFilesWithSender();
-    void listIsDeletedUnderDrag_data();
     void listIsDeletedUnderDrag();
 };
 
@@ -53,7 +52,7 @@ public:
     /// What the sender is told: Qt::IgnoreAction if nothing was taken.
     Qt::DropAction drop()
     {
-        QDropEvent event(QPointF(6, 6), m_actions, m_data, Qt::LeftButton, Qt::ShiftModifier);
+        QDropEvent event(QPoint(6, 6), m_actions, m_data, Qt::LeftButton, Qt::ShiftModifier);
         event.setAccepted(false);
         if (m_target)
             QApplication::sendEvent(m_target, &event);
@@ -143,28 +142,22 @@ void tst_DropAcceptingListWidget::moveLeavesFilesWithSender()
     QCOMPARE(int(spy.size()), 2);
 }
 
-void tst_DropAcceptingListWidget::listIsDeletedUnderDrag_data()
-{
-    QTest::addColumn<bool>("byItsDrop");
-    QTest::newRow("while the drag is over it") << false;
-    QTest::newRow("by its drop") << true;
-}
-
 void tst_DropAcceptingListWidget::listIsDeletedUnderDrag()
 {
-    QFETCH(bool, byItsDrop);
-    QPointer<DropAcceptingListWidget> list = new DropAcceptingListWidget(nullptr);
-    list->setAcceptsDropsFlags(AcceptUrls);
-    list->show();
-    if (byItsDrop)
-        connect(list, SIGNAL(droppedUrls(QStringList)), list, SLOT(deleteLater()));
-    QMimeData data;
-    Drag drag(list, files(&data));
-    QVERIFY(drag.enter());
-    if (!byItsDrop)
-        delete list;
-    QCOMPARE(drag.drop(), byItsDrop ? Qt::CopyAction : Qt::IgnoreAction);
-    WAIT_FOR(!list);
+    for (const bool byItsDrop : {false, true}) {
+        QPointer<DropAcceptingListWidget> list = new DropAcceptingListWidget(nullptr);
+        list->setAcceptsDropsFlags(AcceptUrls);
+        list->show();
+        if (byItsDrop)
+            connect(list, SIGNAL(droppedUrls(QStringList)), list, SLOT(deleteLater()));
+        QMimeData data;
+        Drag drag(list, files(&data));
+        QVERIFY(drag.enter());
+        if (!byItsDrop)
+            delete list;
+        QCOMPARE(drag.drop(), byItsDrop ? Qt::CopyAction : Qt::IgnoreAction);
+        WAIT_FOR(!list);
+    }
 }
 
 QTEST_MAIN(tst_DropAcceptingListWidget)
