@@ -2,28 +2,20 @@
 
 #include <ui/sliders/Slider.h>
 
+#include <ui/sliders/SliderColors.h>
 #include <ui/sliders/SliderLabels.h>
 #include <ui/sliders/SliderPrivate.h>
-#include <ui/toolkit/Painting.h>
 
 #include <QLine>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 
-#include <cmath>
 #include <cstdlib>
 
 namespace Norvane { namespace UI {
 
 namespace {
-
-const int kLabelPoints = 6;
-const int kLabelFlags = Qt::AlignLeft | Qt::AlignBottom | Qt::AlignAbsolute | Qt::TextDontClip;
-
-/// Contrast to the window, from 1 to 21, below which ticks and numbers cannot be seen.
-const qreal kTickContrast = 1.4;
-const qreal kLabelContrast = 3;
 
 /// How far the base of the triangle lies from the thumb, in pixels.
 const int kTriangleReach = 8;
@@ -31,30 +23,6 @@ const int kTriangleReach = 8;
 QRect rectBetween(int left, int top, int right, int bottom)
 {
     return QRect(QPoint(left, top), QPoint(right, bottom));
-}
-
-qreal luminance(const QColor& color)
-{
-    const auto linear = [](qreal channel) { return std::pow(channel, 2.2); };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-qreal contrast(const QColor& a, const QColor& b)
-{
-    const qreal first = luminance(a) + 0.05;
-    const qreal second = luminance(b) + 0.05;
-    return qMax(first, second) / qMin(first, second);
-}
-
-/// The colour of \a role, or where a dark palette hides it on the window, one between window and text.
-QColor colorOnWindow(const QPalette& palette, QPalette::ColorRole role, qreal leastContrast)
-{
-    const QColor window = palette.color(QPalette::Window);
-    if (contrast(palette.color(role), window) >= leastContrast)
-        return palette.color(role);
-    const QColor text = palette.color(QPalette::WindowText);
-    return QColor((window.red() + text.red()) / 2, (window.green() + text.green()) / 2,
-                  (window.blue() + text.blue()) / 2);
 }
 
 } // namespace
@@ -132,15 +100,10 @@ void Slider::paintLabel(QPainter& painter, const QRect* labelRect, int position,
 {
     if (!labelRect)
         return;
-    const QString text = sliderNumber(value);
-    if (d->labels && !d->labels->take(d->labels->boxAt(position, text)))
-        return;
-    QRect place = *labelRect;
-    if (d->orientation == Qt::Horizontal)
-        place.setLeft(position);
-    else
-        place.setBottom(position);
-    painter.drawText(place, kLabelFlags, text);
+    const QRect box =
+        SliderLabels(d->orientation, *labelRect, rect()).boxAt(position, d->numbers.sizeOf(painter, value));
+    if (!d->labels || d->labels->take(box))
+        d->numbers.draw(painter, box.topLeft(), value);
 }
 
 void Slider::Private::paint(QPainter& painter, const QRect& tickRect, const QRect* labelRect,
@@ -151,8 +114,8 @@ void Slider::Private::paint(QPainter& painter, const QRect& tickRect, const QRec
     q->slotSize(start, end);
     const bool isHorizontal = orientation == Qt::Horizontal;
     const int majorLength = (isHorizontal ? tickRect.height() : tickRect.width()) + 1;
-    const QPen tickPen(colorOnWindow(q->palette(), QPalette::Mid, kTickContrast));
-    const QPen labelPen(colorOnWindow(q->palette(), QPalette::Shadow, kLabelContrast));
+    const QPen tickPen(tickColor(q->palette()));
+    const QPen labelPen(numberColor(q->palette()));
 
     QVector<QLine> lines;
     lines.reserve(ticks.size());
@@ -205,15 +168,11 @@ void Slider::paintTicks(QPainter& painter)
     QRect labelRect;
     figureTickSlots(tickRect, labelRect);
     const QFont before = painter.font();
-    QFont small = before;
-    small.setPointSize(kLabelPoints);
-    painter.setFont(small);
+    painter.setFont(d->numbers.smallFont(before));
 
-    SliderLabels labels(painter.fontMetrics(), d->orientation, labelRect, rect());
-    const QString minimumText = sliderNumber(d->minimum);
-    const QString maximumText = sliderNumber(d->maximum);
-    const QRect minimumBox = labels.minimumBox(minimumText);
-    const QRect maximumBox = labels.maximumBox(maximumText);
+    SliderLabels labels(d->orientation, labelRect, rect());
+    const QRect minimumBox = labels.minimumBox(d->numbers.sizeOf(painter, d->minimum));
+    const QRect maximumBox = labels.maximumBox(d->numbers.sizeOf(painter, d->maximum));
     const bool showsMinimum = labels.take(minimumBox);
     const bool showsMaximum = labels.take(maximumBox);
 
@@ -226,11 +185,11 @@ void Slider::paintTicks(QPainter& painter)
         paintSquareTicks(painter, tickRect, &labelRect);
     d->labels = nullptr;
 
-    painter.setPen(colorOnWindow(palette(), QPalette::Shadow, kLabelContrast));
+    painter.setPen(numberColor(palette()));
     if (showsMinimum)
-        painter.drawText(minimumBox, kLabelFlags, minimumText);
+        d->numbers.draw(painter, minimumBox.topLeft(), d->minimum);
     if (showsMaximum)
-        painter.drawText(maximumBox, kLabelFlags, maximumText);
+        d->numbers.draw(painter, maximumBox.topLeft(), d->maximum);
     painter.setFont(before);
 }
 
