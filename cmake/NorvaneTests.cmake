@@ -1,9 +1,9 @@
-# norvane_add_test(tst_Name [INTERNAL] [SOURCES more.cpp...] [LABELS label...])
+# norvane_add_test(tst_Name [INTERNAL] [ACCESSIBLE] [SOURCES more.cpp...] [LABELS label...])
 #
 # Builds tst_Name.cpp and registers it with CTest. INTERNAL gives it the classes that the shared library keeps to
-# itself. A Qt warning that the test did not announce with QTest::ignoreMessage() is a failure.
+# itself. ACCESSIBLE runs it where assistive technology is listening. A Qt warning that the test did not announce with QTest::ignoreMessage() is a failure.
 function(norvane_add_test name)
-    cmake_parse_arguments(TEST "INTERNAL" "" "SOURCES;LABELS" ${ARGN})
+    cmake_parse_arguments(TEST "INTERNAL;ACCESSIBLE" "" "SOURCES;LABELS" ${ARGN})
     add_executable(${name} ${name}.cpp ${TEST_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     if(TEST_INTERNAL)
@@ -13,7 +13,11 @@ function(norvane_add_test name)
     endif()
     target_link_libraries(${name} PRIVATE norvane_qt_test)
     norvane_warnings(${name})
-    add_test(NAME ${name} COMMAND ${name})
+    if(TEST_ACCESSIBLE)
+        add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/accessible $<TARGET_FILE:${name}>)
+    else()
+        add_test(NAME ${name} COMMAND ${name})
+    endif()
     set_tests_properties(${name} PROPERTIES LABELS "${TEST_LABELS}")
     norvane_test_environment(${name})
 endfunction()

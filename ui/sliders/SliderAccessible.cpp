@@ -2,7 +2,6 @@
 
 #include <ui/sliders/Slider.h>
 
-#include <ui/sliders/SliderLabels.h>
 #include <ui/sliders/SliderPrivate.h>
 #include <ui/toolkit/AccessibleValue.h>
 
@@ -23,7 +22,7 @@ void Slider::Private::installAccessible()
         double maximum() const override { return m_slider->maximum(); }
         double step() const override { return m_slider->step(); }
         void setValue(double value) override { m_slider->d->dragTo(value); }
-        QString text() const override { return sliderNumber(value()); }
+        QString text() const override { return SliderNumbers::textOf(value()); }
 
         static AccessibleValue* create(QWidget* slider)
         {

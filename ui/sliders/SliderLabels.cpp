@@ -1,7 +1,5 @@
 #include <ui/sliders/SliderLabels.h>
 
-#include <ui/toolkit/Painting.h>
-
 namespace Norvane { namespace UI {
 
 namespace {
@@ -11,29 +9,16 @@ const int kGap = 3;
 
 } // namespace
 
-QString sliderNumber(double value)
-{
-    // Adding nothing makes 0 of -0.
-    return QString::number(value + 0.0, 'g', 6);
-}
-
-SliderLabels::SliderLabels(const QFontMetrics& metrics, Qt::Orientation orientation, const QRect& column,
-                           const QRect& widget)
-    : m_metrics(metrics)
-    , m_isHorizontal(orientation == Qt::Horizontal)
+SliderLabels::SliderLabels(Qt::Orientation orientation, const QRect& column, const QRect& widget)
+    : m_isHorizontal(orientation == Qt::Horizontal)
     , m_column(column)
     , m_widget(widget)
 {
 }
 
-QSize SliderLabels::sizeOf(const QString& text) const
+QRect SliderLabels::boxAt(int position, const QSize& size) const
 {
-    return QSize(textWidth(m_metrics, text), m_metrics.height());
-}
-
-QRect SliderLabels::boxAt(int position, const QString& text) const
-{
-    QRect box(QPoint(), sizeOf(text));
+    QRect box(QPoint(), size);
     if (m_isHorizontal)
         box.moveBottomLeft(QPoint(position, m_column.bottom()));
     else
@@ -41,16 +26,16 @@ QRect SliderLabels::boxAt(int position, const QString& text) const
     return box;
 }
 
-QRect SliderLabels::minimumBox(const QString& text) const
+QRect SliderLabels::minimumBox(const QSize& size) const
 {
-    QRect box(QPoint(), sizeOf(text));
+    QRect box(QPoint(), size);
     box.moveBottomLeft(m_column.bottomLeft());
     return box;
 }
 
-QRect SliderLabels::maximumBox(const QString& text) const
+QRect SliderLabels::maximumBox(const QSize& size) const
 {
-    QRect box(QPoint(), sizeOf(text));
+    QRect box(QPoint(), size);
     if (m_isHorizontal)
         box.moveBottomRight(m_column.bottomRight());
     else

@@ -18,9 +18,6 @@ namespace Norvane { namespace UI {
 
 namespace {
 
-const int kLabelPoints = 6;
-const int kLabelFlags = Qt::AlignLeft | Qt::AlignBottom | Qt::AlignAbsolute | Qt::TextDontClip;
-
 /// Contrast to the window, from 1 to 21, below which ticks and numbers cannot be seen.
 const qreal kTickContrast = 1.4;
 const qreal kLabelContrast = 3;
@@ -132,15 +129,10 @@ void Slider::paintLabel(QPainter& painter, const QRect* labelRect, int position,
 {
     if (!labelRect)
         return;
-    const QString text = sliderNumber(value);
-    if (d->labels && !d->labels->take(d->labels->boxAt(position, text)))
-        return;
-    QRect place = *labelRect;
-    if (d->orientation == Qt::Horizontal)
-        place.setLeft(position);
-    else
-        place.setBottom(position);
-    painter.drawText(place, kLabelFlags, text);
+    const QRect box =
+        SliderLabels(d->orientation, *labelRect, rect()).boxAt(position, d->numbers.sizeOf(painter, value));
+    if (!d->labels || d->labels->take(box))
+        d->numbers.draw(painter, box.topLeft(), value);
 }
 
 void Slider::Private::paint(QPainter& painter, const QRect& tickRect, const QRect* labelRect,
@@ -205,15 +197,11 @@ void Slider::paintTicks(QPainter& painter)
     QRect labelRect;
     figureTickSlots(tickRect, labelRect);
     const QFont before = painter.font();
-    QFont small = before;
-    small.setPointSize(kLabelPoints);
-    painter.setFont(small);
+    painter.setFont(d->numbers.smallFont(before));
 
-    SliderLabels labels(painter.fontMetrics(), d->orientation, labelRect, rect());
-    const QString minimumText = sliderNumber(d->minimum);
-    const QString maximumText = sliderNumber(d->maximum);
-    const QRect minimumBox = labels.minimumBox(minimumText);
-    const QRect maximumBox = labels.maximumBox(maximumText);
+    SliderLabels labels(d->orientation, labelRect, rect());
+    const QRect minimumBox = labels.minimumBox(d->numbers.sizeOf(painter, d->minimum));
+    const QRect maximumBox = labels.maximumBox(d->numbers.sizeOf(painter, d->maximum));
     const bool showsMinimum = labels.take(minimumBox);
     const bool showsMaximum = labels.take(maximumBox);
 
@@ -228,9 +216,9 @@ void Slider::paintTicks(QPainter& painter)
 
     painter.setPen(colorOnWindow(palette(), QPalette::Shadow, kLabelContrast));
     if (showsMinimum)
-        painter.drawText(minimumBox, kLabelFlags, minimumText);
+        d->numbers.draw(painter, minimumBox.topLeft(), d->minimum);
     if (showsMaximum)
-        painter.drawText(maximumBox, kLabelFlags, maximumText);
+        d->numbers.draw(painter, maximumBox.topLeft(), d->maximum);
     painter.setFont(before);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ui/sliders/Slider.h>
+#include <ui/sliders/SliderNumbers.h>
 #include <ui/sliders/SliderScale.h>
 #include <ui/sliders/SliderTicks.h>
 
@@ -48,6 +49,7 @@ struct Slider::Private {
     QColor color;
     QGradient gradient;
     bool useGradient = false;
+    SliderNumbers numbers;
     /// Only while ticks are painted.
     SliderLabels* labels = nullptr;
 };
