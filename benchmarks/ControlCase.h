@@ -28,5 +28,6 @@ struct ControlCase {
 };
 
 std::vector<ControlCase> sliderCases();
+std::vector<ControlCase> wheelCases();
 
 }} // namespace Norvane::Benchmarks

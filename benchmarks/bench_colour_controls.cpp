@@ -32,7 +32,9 @@ int run(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 1;
 
-    const std::vector<ControlCase> cases = sliderCases();
+    std::vector<ControlCase> cases = wheelCases();
+    for (const ControlCase& slider : sliderCases())
+        cases.push_back(slider);
     for (const ControlCase& control : cases) {
         const std::string name = control.task + '/' + control.contestant;
         benchmark::RegisterBenchmark(name.c_str(), measure, control)

@@ -1,11 +1,11 @@
-// What the mouse and the keyboard do with a wheel.
+// What the mouse does with a wheel.
 
 #include <ui/colour/ColorWheel.h>
 
 #include <ui/colour/ColorWheelPrivate.h>
 #include <ui/toolkit/Events.h>
 
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPointer>
 
 #include <algorithm>
@@ -23,8 +23,6 @@ const double kHueBand = 0.8;
 const float kPixelsPerValue = 500.0f;
 /// A box smaller than this in both directions is a click.
 const int kBoxMinimum = 4;
-const float kKeyStep = 0.01f;
-const float kPageStep = 0.1f;
 
 double length(const QPointF& point)
 {
@@ -133,9 +131,11 @@ void ColorWheel::mouseMoveEvent(QMouseEvent* event)
 void ColorWheel::drag(QMouseEvent* event)
 {
     const QPointF point = dragPoint(event);
-    const QRegion before = d->markRegion();
-    d->drag.current = point;
-    update(before | d->markRegion());
+    if (d->drag.has(kBoxZoomDrag)) {
+        const QRegion before = d->markRegion();
+        d->drag.current = point;
+        update(before | d->markRegion());
+    }
     if (d->drag.has(kPanDrag))
         setPan(d->pan + (point - d->drag.anchor) / d->measures().innerRadius);
     if (d->drag.has(kZoomDrag))
@@ -223,48 +223,6 @@ void ColorWheel::mouseReleaseEvent(QMouseEvent* event)
     d->drag.mode = 0;
     update();
     Q_EMIT stopDragSignal();
-}
-
-void ColorWheel::keyPressEvent(QKeyEvent* event)
-{
-    Shown color = d->shown;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        color.hue = float(wrappedTurn(color.hue - kKeyStep));
-        break;
-    case Qt::Key_Right:
-        color.hue = float(wrappedTurn(color.hue + kKeyStep));
-        break;
-    case Qt::Key_Up:
-        color.saturation = std::max(color.saturation, std::min(color.saturation + kKeyStep, 1.0f));
-        break;
-    case Qt::Key_Down:
-        color.saturation = std::max(color.saturation - kKeyStep, 0.0f);
-        break;
-    case Qt::Key_PageUp:
-        color.value += kPageStep;
-        break;
-    case Qt::Key_PageDown:
-        color.value -= kPageStep;
-        break;
-    default:
-        QWidget::keyPressEvent(event);
-        return;
-    }
-    editAtOnce(color);
-}
-
-void ColorWheel::editAtOnce(const Shown& color)
-{
-    if (color == d->shown)
-        return;
-    // In the order of a drag, so that a client need not know where an edit came from.
-    const QPointer<ColorWheel> self(this);
-    Q_EMIT startDragSignal();
-    if (self)
-        editColor(color);
-    if (self)
-        Q_EMIT stopDragSignal();
 }
 
 }} // namespace Norvane::UI

@@ -37,19 +37,21 @@ QPolygonF piecesOf(const QRectF& circle)
     return points;
 }
 
-/// Collects where something is painted, in a widget of a certain height.
+/// Collects where something is painted in a widget.
 class PaintedRegion
 {
 public:
-    explicit PaintedRegion(int height)
-        : m_height(height)
+    explicit PaintedRegion(const QSize& size)
+        : m_size(size)
     {
     }
     void add(const QRectF& mark)
     {
         // Wheel coordinates are counted from the bottom.
-        const QRectF inWidget(mark.left(), m_height - mark.bottom(), mark.width(), mark.height());
-        m_region |= inWidget.toAlignedRect().adjusted(-kMargin, -kMargin, kMargin, kMargin);
+        const QRectF flipped(mark.left(), m_size.height() - mark.bottom(), mark.width(), mark.height());
+        const QRectF painted = flipped.adjusted(-kMargin, -kMargin, kMargin, kMargin);
+        // Of a saturation without bounds, the mark may be farther away than an integer can tell.
+        m_region |= (painted & QRectF(QPointF(), m_size)).toAlignedRect();
     }
     /// Piece by piece: together they are much smaller than the rectangle around all.
     void addPieces(const QPolygonF& points)
@@ -60,7 +62,7 @@ public:
     QRegion region() const { return m_region; }
 
 private:
-    int m_height;
+    QSizeF m_size;
     QRegion m_region;
 };
 
@@ -137,10 +139,14 @@ QRectF ColorWheel::Private::guideCircle() const
 {
     const WheelGeometry geometry = measures();
     const double radius = shown.saturation * geometry.innerRadius;
-    if (displayMode == kInnerSquare || !drag.has(kHueDrag) || radius <= std::numeric_limits<float>::epsilon())
+    // A circle that no pixel of the widget can see would be dashed without end.
+    const QPointF middle(wheel->width() / 2.0, wheel->height() / 2.0);
+    const double seen = QLineF(geometry.centre, middle).length() + QLineF(QPointF(), middle).length();
+    if (displayMode == kInnerSquare || !drag.has(kHueDrag) || radius > seen ||
+        radius <= std::numeric_limits<float>::epsilon())
         return QRectF();
-    const QPointF corner(radius, radius);
-    return QRectF(geometry.centre - corner, geometry.centre + corner);
+    const QPointF reach(radius, radius);
+    return QRectF(geometry.centre - reach, geometry.centre + reach);
 }
 
 QRectF ColorWheel::Private::rubberBand() const
@@ -158,7 +164,7 @@ QRegion ColorWheel::Private::markRegion() const
         return QRegion();
     const QPointF mark = displayMode == kInnerSquare ? squareMark() : saturationMark();
     const QPolygonF triangle = displayMode == kValueRing ? ringTriangle() : hueTriangle();
-    PaintedRegion painted(wheel->height());
+    PaintedRegion painted(wheel->size());
     painted.add(circleMark(mark));
     painted.add(triangle.boundingRect());
     if (displayMode == kValueRing)

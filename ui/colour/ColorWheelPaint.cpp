@@ -20,6 +20,7 @@ namespace {
 const float kBright = 0.6f;
 /// Below this, a colour is nearly black.
 const float kDark = 0.1f;
+const int kMostSquarePixels = 512;
 
 struct MarkColors {
     QColor normal;
@@ -167,24 +168,24 @@ void ColorWheel::Private::paintSquare(QPainter& painter)
     painter.setBrush(wheel->palette().color(QPalette::Window));
     painter.drawEllipse(geometry.centre, geometry.innerRadius, geometry.innerRadius);
     const QRectF target = geometry.innerSquare();
-    // Half as many pixels are enough for a picture without edges.
-    const QSize pixels = (target.size() * UI::devicePixelRatio(wheel) / 2.0).toSize();
-    const QSize atLeastOne = pixels.expandedTo(QSize(1, 1));
-    if (squareImage.size() != atLeastOne || squareHue != shown.hue)
-        drawSquare(atLeastOne);
+    // Half as many pixels are enough for a picture without edges, and some hundred for any size of it.
+    const int half = qRound(target.width() * UI::devicePixelRatio(wheel) / 2.0);
+    const int side = std::clamp(half, 1, kMostSquarePixels);
+    if (squareImage.width() != side || squareHue != shown.hue)
+        drawSquare(side);
     painter.drawImage(target, squareImage);
 }
 
-void ColorWheel::Private::drawSquare(const QSize& size)
+void ColorWheel::Private::drawSquare(int side)
 {
-    if (squareImage.size() != size)
-        squareImage = QImage(size, QImage::Format_RGB32);
+    if (squareImage.width() != side)
+        squareImage = QImage(side, side, QImage::Format_RGB32);
     squareHue = shown.hue;
-    for (int y = 0; y < size.height(); ++y) {
+    for (int y = 0; y < side; ++y) {
         QRgb* const line = reinterpret_cast<QRgb*>(squareImage.scanLine(y));
-        for (int x = 0; x < size.width(); ++x) {
+        for (int x = 0; x < side; ++x) {
             float r = 0.0f, g = 0.0f, b = 0.0f;
-            Colour::hsvToRgb(shown.hue, float(x) / size.width(), float(y) / size.height(), &r, &g, &b);
+            Colour::hsvToRgb(shown.hue, float(x) / side, float(y) / side, &r, &g, &b);
             line[x] = qRgb(int(r * 255.0f), int(g * 255.0f), int(b * 255.0f));
         }
     }

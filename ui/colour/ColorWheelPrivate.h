@@ -104,7 +104,7 @@ struct ColorWheel::Private {
 private:
     void drawDisc(QPainter& painter) const;
     void drawRing(QPainter& painter) const;
-    void drawSquare(const QSize& size);
+    void drawSquare(int side);
 };
 
 }} // namespace Norvane::UI

@@ -44,7 +44,7 @@ QRgb texelAt(const QPointF& point, double rotation)
 } // namespace
 
 QImage ColorWheel::_texture;
-unsigned char ColorWheel::_texture_bits[kSide * kSide * 4];
+alignas(QRgb) unsigned char ColorWheel::_texture_bits[kSide * kSide * 4];
 bool ColorWheel::_texture_ready = false;
 float ColorWheel::_texture_rotation = 0.0f;
 

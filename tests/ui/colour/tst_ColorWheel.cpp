@@ -73,7 +73,7 @@ private Q_SLOTS:
     void rotationTurnsPicture();
     void dragRepaintsWhatMoved_data();
     void dragRepaintsWhatMoved();
-    void anySizeIsPainted();
+    void anySizeAndColorIsPainted();
 };
 
 void tst_ColorWheel::startsAsItsModeSays()
@@ -271,15 +271,17 @@ void tst_ColorWheel::dragRepaintsWhatMoved()
     QCOMPARE(wasPartly, partly);
 }
 
-void tst_ColorWheel::anySizeIsPainted()
+void tst_ColorWheel::anySizeAndColorIsPainted()
 {
     for (int mode = 0; mode < 4; ++mode) {
         for (const QSize& size : {QSize(1, 1), QSize(5, 300), QSize(12, 12), QSize(40, 40), QSize(300, 60)}) {
             ColorWheel wheel(nullptr, ColorWheel::DisplayMode(mode));
             wheel.setFixedSize(size);
             grabPixmap(&wheel);
-            Hand hand(&wheel, QPoint(size.width() / 2, size.height() / 2));
+            Hand hand(&wheel, QPoint(size.width() / 2, size.height() / 2), Qt::ControlModifier);
             hand.moveBy(1, 1);
+            grabPixmap(&wheel);
+            wheel.setHSV(-1e30f, 1e30f, 1e30f);
             grabPixmap(&wheel);
         }
     }

@@ -5,7 +5,6 @@
 #include <tests/ui/colour/Client.h>
 #include <tests/ui/colour/Hand.h>
 
-#include <QAccessible>
 #include <QSignalSpy>
 
 #include <cmath>
@@ -83,7 +82,6 @@ private Q_SLOTS:
     void secondButtonChangesNothing();
     void keysChangeColor();
     void rotationTurnsHue();
-    void assistiveTechnologySetsHue();
 };
 
 void tst_ColorWheelDrag::pressHasDragMode_data()
@@ -307,22 +305,6 @@ void tst_ColorWheelDrag::rotationTurnsHue()
     ring.setHueRotation(float(std::acos(0.0)));
     Hand hand(&ring, QPoint(10, 100));
     QVERIFY(isNear(ring.value(), 0.25));
-}
-
-void tst_ColorWheelDrag::assistiveTechnologySetsHue()
-{
-    Wheel wheel(ColorWheel::kDisc);
-    wheel.setHSV(0.25f, 0.5f, 1.0f);
-    QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&wheel);
-    QVERIFY(interface && interface->valueInterface());
-    QCOMPARE(interface->text(QAccessible::Name), QString::fromLatin1("Colour wheel"));
-    QCOMPARE(interface->text(QAccessible::Value),
-             QString::fromLatin1("Hue 90 degrees, saturation 50%, value 100%"));
-    QCOMPARE(interface->valueInterface()->maximumValue().toDouble(), 1.0);
-    interface->valueInterface()->setCurrentValue(0.5);
-    QCOMPARE(wheel.hue(), 0.5f);
-    QCOMPARE(interface->valueInterface()->currentValue().toDouble(), 0.5);
-    QCOMPARE(wheel.record, QString::fromLatin1("(c.)"));
 }
 
 QTEST_MAIN(tst_ColorWheelDrag)
