@@ -28,6 +28,10 @@ set(public_headers
     ui/docking/SnappableWindow.h
     ui/docking/TitleBarButton.h
     ui/docking/WidgetUtils.h
+    ui/progress/ProgressManager.h
+    ui/progress/ProgressTask.h
+    ui/progress/Relaxed.h
+    ui/progress/TaskPrivate.h
     ui/toolkit/Events.h)
 foreach(header IN LISTS public_headers)
     get_filename_component(folder ${header} DIRECTORY)
