@@ -32,7 +32,10 @@ set(public_headers
     ui/progress/ProgressTask.h
     ui/progress/Relaxed.h
     ui/progress/TaskPrivate.h
-    ui/toolkit/Events.h)
+    ui/toolkit/Events.h
+    ui/widgets/ApplicationPaths.h
+    ui/widgets/AppSettings.h
+    ui/widgets/VerticalLayout.h)
 foreach(header IN LISTS public_headers)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${header_dir}/${folder})
