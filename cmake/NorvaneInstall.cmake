@@ -34,9 +34,15 @@ set(public_headers
     ui/docking/SnappableWindow.h
     ui/docking/TitleBarButton.h
     ui/docking/WidgetUtils.h
+    ui/progress/ProgressManager.h
+    ui/progress/ProgressTask.h
+    ui/progress/Relaxed.h
+    ui/progress/TaskPrivate.h
     ui/sliders/LogSlider.h
     ui/sliders/Slider.h
     ui/toolkit/Events.h
+    ui/widgets/ApplicationPaths.h
+    ui/widgets/AppSettings.h
     ui/widgets/BubbleWidget.h
     ui/widgets/DisclosableWidget.h
     ui/widgets/DisclosureButton.h
@@ -44,7 +50,8 @@ set(public_headers
     ui/widgets/DropAcceptingWidget.h
     ui/widgets/FilenameField.h
     ui/widgets/FlatButton.h
-    ui/widgets/SearchField.h)
+    ui/widgets/SearchField.h
+    ui/widgets/VerticalLayout.h)
 foreach(header IN LISTS public_headers)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${header_dir}/${folder})

@@ -37,7 +37,8 @@ function(norvane_test_environment name)
         "XDG_RUNTIME_DIR=${NORVANE_TEST_RUNTIME_DIR}"
         "ASAN_OPTIONS=detect_stack_use_after_return=1"
         "LSAN_OPTIONS=suppressions=${support}/lsan.supp:print_suppressions=0"
-        "UBSAN_OPTIONS=print_stacktrace=1")
+        "UBSAN_OPTIONS=print_stacktrace=1"
+        "TSAN_OPTIONS=suppressions=${support}/tsan.supp:second_deadlock_stack=1")
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${timeout}
         ENVIRONMENT "${environment}"
