@@ -19,12 +19,14 @@ QToolButton* createMenuButton(QWidget* parent)
     button->setText(QLatin1String("In"));
     button->setAutoRaise(true);
     button->setCursor(Qt::ArrowCursor);
-    button->setFixedSize(34, 18);
     button->setPopupMode(QToolButton::InstantPopup);
     QMenu* const menu = new QMenu(button);
     menu->addAction(QLatin1String("Names"));
     menu->addAction(QLatin1String("Comments"));
     button->setMenu(menu);
+    // A little lower than the field.
+    button->ensurePolished();
+    button->setFixedSize(button->sizeHint().width(), button->fontMetrics().height() + 2);
     return button;
 }
 

@@ -24,7 +24,6 @@ private Q_SLOTS:
     void outlineIsClosedPolygon_data();
     void outlineIsClosedPolygon();
     void cornersAreRound();
-    void pinStaysOffCorners_data();
     void pinStaysOffCorners();
     void popsUpNearEveryEdge_data();
     void popsUpNearEveryEdge();
@@ -159,29 +158,22 @@ void tst_BubbleWidget::cornersAreRound()
         QVERIFY(path.contains(inside));
 }
 
-void tst_BubbleWidget::pinStaysOffCorners_data()
-{
-    QTest::addColumn<int>("pinOffset");
-    QTest::addColumn<int>("pinWidth");
-    QTest::addColumn<qreal>("tip");
-    QTest::newRow("middle") << 0 << 31 << qreal(50);
-    QTest::newRow("right of it") << 20 << 30 << qreal(70);
-    QTest::newRow("far right") << 90 << 30 << qreal(100 - 15 - 8);
-    QTest::newRow("far left") << -90 << 30 << qreal(15 + 8);
-    QTest::newRow("wider than the bubble") << 0 << 120 << qreal(60 + 8);
-}
-
 void tst_BubbleWidget::pinStaysOffCorners()
 {
-    QFETCH(int, pinOffset);
-    QFETCH(int, pinWidth);
-    QFETCH(qreal, tip);
-    const BubbleShape shape = {8, pinWidth, 20, pinOffset};
-    const QPainterPath path = bubbleOutline(QRectF(0, 0, 100, 80), Qt::AlignTop, shape);
-    bool found = false;
-    for (int i = 0; i < path.elementCount(); ++i)
-        found |= QPointF(path.elementAt(i)) == QPointF(tip, 20 - pinWidth / 2);
-    QVERIFY(found);
+    const struct {
+        int pinOffset, pinWidth;
+        QPointF tip;
+    } cases[] = {{0, 31, QPointF(50, 5)},
+                 {20, 30, QPointF(70, 5)},
+                 {90, 30, QPointF(77, 5)},
+                 {-90, 30, QPointF(23, 5)},
+                 {0, 120, QPointF(68, -40)}};
+    for (const auto& test : cases) {
+        const BubbleShape shape = {8, test.pinWidth, 20, test.pinOffset};
+        const QPainterPath path = bubbleOutline(QRectF(0, 0, 100, 80), Qt::AlignTop, shape);
+        // Behind the corner: its start, its arc of three points, and where the pin begins.
+        QCOMPARE(QPointF(path.elementAt(5)), test.tip);
+    }
 }
 
 void tst_BubbleWidget::popsUpNearEveryEdge_data()
