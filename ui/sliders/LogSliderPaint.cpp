@@ -165,8 +165,9 @@ void LogSlider::Painting::paintMark(int exponent, int count, bool wantsLabel)
 
 int LogSlider::tickPosition(double value, int start, int span) const
 {
-    const double part = calculateSliderValue(value) - minimum();
-    return static_cast<int>(part / (static_cast<double>(maximum()) - minimum()) * span) + start;
+    // An int may be too small for the whole range.
+    const double first = minimum();
+    return static_cast<int>((calculateSliderValue(value) - first) / (maximum() - first) * span) + start;
 }
 
 bool LogSlider::checkTick(const QRect& rect, int position) const

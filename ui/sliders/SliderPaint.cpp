@@ -167,8 +167,9 @@ void Slider::paintTicks(QPainter& painter)
     QRect tickRect;
     QRect labelRect;
     figureTickSlots(tickRect, labelRect);
+    const bool isHorizontal = d->orientation == Qt::Horizontal;
     const QFont before = painter.font();
-    painter.setFont(d->numbers.smallFont(before));
+    painter.setFont(d->numbers.smallFont(before, isHorizontal ? labelRect.height() : height()));
 
     SliderLabels labels(d->orientation, labelRect, rect());
     const QRect minimumBox = labels.minimumBox(d->numbers.sizeOf(painter, d->minimum));
