@@ -60,7 +60,7 @@ private:
             task->setProgress(step);
             child.setMessage(message(turn + step));
         }
-        child.setFlag(Task::kModal, turn % 2);
+        child.setFlag(Task::kModal, turn % 50 == 0);
         if (turn % 5 == 0)
             task->setCancelled(true);
         task.reset();

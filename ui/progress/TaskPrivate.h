@@ -50,7 +50,8 @@ public:
 
     /// The handle that made the record; null once it, or a copy of it, is destroyed.
     Relaxed<ProgressTask*> owner;
-    const QTime startTime;
+    /// Not changed once the task is listed.
+    QTime startTime;
     const QString name;
     Relaxed<int> maximum;
     /// Null for a task that is nobody's sub-task.

@@ -2,6 +2,8 @@
 #include <ui/progress/ProgressTask.h>
 #include <ui/progress/TaskPrivate.h>
 
+#include <tests/support/TaskListener.h>
+
 #include <QMutexLocker>
 #include <QSignalSpy>
 #include <QtTest>
@@ -12,6 +14,7 @@
 #include <thread>
 
 using namespace Norvane::UI;
+using NorvaneTest::TaskListener;
 
 namespace {
 
@@ -20,23 +23,6 @@ QExplicitlySharedDataPointer<TaskPrivate> lastRecord(ProgressManager& manager)
 {
     return QExplicitlySharedDataPointer<TaskPrivate>(manager.tasks().last());
 }
-
-/// Counts what it is told, and does something more when it is cancelled.
-class Listener : public ProgressTask
-{
-public:
-    explicit Listener(ProgressManager* manager)
-        : ProgressTask(QString(), 10, kCallbackOnProgress, nullptr, manager)
-    {
-    }
-    ~Listener() override { stopCallbacks(); }
-
-    void taskCancelled() override { whenCancelled(); }
-    void doProgressCallback() override { reported = progress(); }
-
-    std::function<void()> whenCancelled = [] {};
-    int reported = -1;
-};
 
 } // namespace
 
@@ -213,7 +199,7 @@ void tst_ProgressTask::subTaskOutlivesParent()
 void tst_ProgressTask::progressCallback()
 {
     ProgressManager manager;
-    Listener task(&manager);
+    TaskListener task(ProgressTask::kCallbackOnProgress, &manager);
     task.setProgress(3);
     QCOMPARE(task.reported, 3);
     task.setFlag(ProgressTask::kCallbackOnProgress, false);
@@ -224,7 +210,7 @@ void tst_ProgressTask::progressCallback()
 void tst_ProgressTask::endWaitsForCallback()
 {
     ProgressManager manager;
-    Listener* const task = new Listener(&manager);
+    TaskListener* const task = new TaskListener(0, &manager);
     const auto record = lastRecord(manager);
     std::atomic<bool> isEnding(false), hasReturned(false);
     bool waited = false;
@@ -250,7 +236,7 @@ void tst_ProgressTask::endWaitsForCallback()
 void tst_ProgressTask::callbackMayEndTask()
 {
     ProgressManager manager;
-    Listener* const task = new Listener(&manager);
+    TaskListener* const task = new TaskListener(0, &manager);
     task->whenCancelled = [task, &manager] {
         const ProgressTask next(QString(), 10, 0, nullptr, &manager);
         delete task;

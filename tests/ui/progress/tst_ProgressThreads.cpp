@@ -1,10 +1,12 @@
-#include <ui/progress/ProgressManager.h>
+#include <ui/progress/DialogProgressManager.h>
+#include <ui/progress/ProgressWidget.h>
 #include <ui/progress/TaskPrivate.h>
 
 #include <tests/support/TaskStorm.h>
 #include <tests/support/Waiting.h>
 
 #include <QMutexLocker>
+#include <QPushButton>
 
 using namespace Norvane::UI;
 using NorvaneTest::TaskStorm;
@@ -54,8 +56,16 @@ class tst_ProgressThreads : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase();
     void stormPasses();
+    void stormPassesDialog();
 };
+
+void tst_ProgressThreads::initTestCase()
+{
+    // The one that is asked where windows were.
+    static ProgressManager first;
+}
 
 void tst_ProgressThreads::stormPasses()
 {
@@ -69,5 +79,32 @@ void tst_ProgressThreads::stormPasses()
     QVERIFY(!watcher.tornMessage);
 }
 
-QTEST_GUILESS_MAIN(tst_ProgressThreads)
+// With a user who pauses, cancels and closes, and a host that takes the dialog away in the middle.
+void tst_ProgressThreads::stormPassesDialog()
+{
+    DialogProgressManager manager;
+    int round = 0;
+    {
+        const TaskStorm storm(8, 100);
+        while (!storm.isOver()) {
+            QCoreApplication::processEvents();
+            const QList<QPushButton*> buttons = manager.progressWidget()->findChildren<QPushButton*>();
+            if (!buttons.isEmpty())
+                buttons.at(++round % buttons.size())->click();
+            if (round % 50 == 10)
+                manager.progressWidget()->close();
+            if (round % 50 == 30) {
+                manager.deleteProgressWidget();
+                manager.createProgressWidget(nullptr);
+            }
+        }
+    }
+    WAIT_FOR(manager.progressWidget()->findChildren<ProgressWidget*>().isEmpty());
+    QVERIFY(manager.progressWidget()->isHidden());
+    // Those that failed and were cleared stay listed.
+    for (const TaskPrivate* const task : manager.tasks())
+        QVERIFY(task->error);
+}
+
+QTEST_MAIN(tst_ProgressThreads)
 #include "tst_ProgressThreads.moc"
