@@ -84,7 +84,7 @@ Record tst_ProgressDialog::addTask(int flags, TaskListener* parent)
 void tst_ProgressDialog::initTestCase()
 {
     // The one that is asked where windows were.
-    new ProgressManager;
+    static ProgressManager first;
 }
 
 void tst_ProgressDialog::init()

@@ -56,9 +56,16 @@ class tst_ProgressThreads : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase();
     void stormPasses();
     void stormPassesDialog();
 };
+
+void tst_ProgressThreads::initTestCase()
+{
+    // The one that is asked where windows were.
+    static ProgressManager first;
+}
 
 void tst_ProgressThreads::stormPasses()
 {
