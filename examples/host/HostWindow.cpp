@@ -221,12 +221,12 @@ void HostWindow::newNotes()
 
 void HostWindow::newFiles()
 {
-    addPanel(m_panels.createPanel(PanelRegistry::FilesKind), paneForPanels());
+    addPanel(m_panels.createPanel(PanelRegistry::FilesKind), paneForControls());
 }
 
 void HostWindow::newInspector()
 {
-    addPanel(m_panels.createPanel(PanelRegistry::InspectorKind), paneForPanels());
+    addPanel(m_panels.createPanel(PanelRegistry::InspectorKind), paneForControls());
 }
 
 void HostWindow::newControls()
