@@ -238,7 +238,9 @@ void tst_FilenameField::cancelledDialogChangesNothing()
         DialogUser user((QString()));
         QMetaObject::invokeMethod(form.field, "openFileDialog");
         QVERIFY(user.sawDialog);
-        WAIT_FOR(form.edit->hasFocus());
+        // Whether the window manager gives the window the keyboard back at once is its own affair.
+        QVERIFY(Desk::activate(&form.window));
+        QVERIFY(form.edit->hasFocus());
         QCOMPARE(form.field->filename(), latin1("/a"));
         QCOMPARE(log.text, latin1(native ? "" : "D"));
         // From here on leaving the edit finishes the editing again.
