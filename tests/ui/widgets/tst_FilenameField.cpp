@@ -2,6 +2,7 @@
 
 #include <tests/support/Desk.h>
 #include <ui/toolkit/Painting.h>
+#include <ui/toolkit/Screens.h>
 
 #include <QDir>
 #include <QLabel>
@@ -16,6 +17,7 @@ class tst_FilenameField : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase();
     void promptFollowsTextAndFocus();
     void promptIsCentred();
     void settingNameReports();
@@ -122,6 +124,12 @@ struct Form {
 };
 
 } // namespace
+
+// Under the mouse, Qt asks the X server about the frame of a dialog that is gone already, and warns.
+void tst_FilenameField::initTestCase()
+{
+    QCursor::setPos(Norvane::UI::Screens::availableGeometry(0).bottomRight() - QPoint(5, 5));
+}
 
 void tst_FilenameField::promptFollowsTextAndFocus()
 {
@@ -238,7 +246,9 @@ void tst_FilenameField::cancelledDialogChangesNothing()
         DialogUser user((QString()));
         QMetaObject::invokeMethod(form.field, "openFileDialog");
         QVERIFY(user.sawDialog);
-        WAIT_FOR(form.edit->hasFocus());
+        // Whether the window manager gives the window the keyboard back at once is its own affair.
+        QVERIFY(Desk::activate(&form.window));
+        QVERIFY(form.edit->hasFocus());
         QCOMPARE(form.field->filename(), latin1("/a"));
         QCOMPARE(log.text, latin1(native ? "" : "D"));
         // From here on leaving the edit finishes the editing again.
