@@ -68,24 +68,28 @@ UI::LogSlider* createLogSlider(Qt::Orientation orientation, QWidget* parent)
     return slider;
 }
 
-/// Every example lying, with its name, and standing.
+/// Every example lying, with its name, and some standing.
 QWidget* createSheet()
 {
     QWidget* const sheet = new QWidget;
     QGridLayout* const grid = new QGridLayout(sheet);
-    const int count = sizeof kExamples / sizeof kExamples[0];
-    for (int row = 0; row < count; ++row) {
-        const Example& example = kExamples[row];
+    int row = 0;
+    for (const Example& example : kExamples) {
         grid->addWidget(new QLabel(QLatin1String(example.name)), row, 0);
         grid->addWidget(createSlider(example, Qt::Horizontal, sheet), row, 1);
-        Slider* const standing = createSlider(example, Qt::Vertical, sheet);
-        standing->setFixedWidth(44);
-        grid->addWidget(standing, 0, 2 + row, count, 1);
+        ++row;
     }
-    grid->addWidget(new QLabel(QLatin1String("LogSlider, 0.01 to 1000")), count, 0);
-    grid->addWidget(createLogSlider(Qt::Horizontal, sheet), count, 1);
-    grid->addWidget(createLogSlider(Qt::Vertical, sheet), 0, 2 + count, count + 1, 1);
+    grid->addWidget(new QLabel(QLatin1String("LogSlider, 0.01 to 1000")), row, 0);
+    grid->addWidget(createLogSlider(Qt::Horizontal, sheet), row, 1);
     grid->setColumnMinimumWidth(1, 420);
+
+    int column = 2;
+    for (const int standing : {0, 4, 8}) {
+        Slider* const slider = createSlider(kExamples[standing], Qt::Vertical, sheet);
+        slider->setFixedWidth(44);
+        grid->addWidget(slider, 0, column++, row + 1, 1);
+    }
+    grid->addWidget(createLogSlider(Qt::Vertical, sheet), 0, column, row + 1, 1);
     return sheet;
 }
 

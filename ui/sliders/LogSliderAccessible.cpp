@@ -25,7 +25,8 @@ void LogSlider::Private::installAccessible()
         double maximum() const override { return at(m_slider->maximum()); }
         double step() const override
         {
-            return at(m_slider->value() + m_slider->singleStep()) - at(m_slider->value());
+            const int step = m_slider->singleStep();
+            return hasRange() ? value() * (at(step) - 1) : step;
         }
         void setValue(double value) override
         {

@@ -140,13 +140,14 @@ void LogSlider::Painting::paintMark(int exponent, int count, bool wantsLabel)
     const LogSlider::Private& d = *m_slider->d;
     const int position = m_slider->tickPosition(count * powerOfTen(exponent), m_start, m_span);
     const bool isLast = exponent == d.maxExp;
-    const int begin = std::abs(position - m_start) + kLabelGap;
-    const int end = begin + labelWidth(exponent, count);
+    const int width = labelWidth(exponent, count);
+    const int begin = std::abs(position - m_start) + (isLast ? -kLabelGap - width : kLabelGap);
+    const int end = begin + width;
     // A power of ten matters more than the marks before it.
     const int nextPower =
         std::abs(m_slider->tickPosition(powerOfTen(exponent + 1), m_start, m_span) - m_start);
     const int limit = count == 1 ? m_limit : qMin(m_limit, nextPower);
-    const bool hasLabel = wantsLabel && (isLast || (begin > m_labelEnd && end < limit));
+    const bool hasLabel = wantsLabel && begin > m_labelEnd && (isLast || end < limit);
     if (hasLabel)
         m_labelEnd = end;
     if (m_slider->checkTick(m_handle, position))
@@ -164,8 +165,9 @@ void LogSlider::Painting::paintMark(int exponent, int count, bool wantsLabel)
 
 int LogSlider::tickPosition(double value, int start, int span) const
 {
-    const double part = calculateSliderValue(value) - minimum();
-    return static_cast<int>(part / (static_cast<double>(maximum()) - minimum()) * span) + start;
+    // An int may be too small for the whole range.
+    const double first = minimum();
+    return static_cast<int>((calculateSliderValue(value) - first) / (maximum() - first) * span) + start;
 }
 
 bool LogSlider::checkTick(const QRect& rect, int position) const

@@ -2,6 +2,7 @@
 
 #include <ui/toolkit/Painting.h>
 
+#include <QFontInfo>
 #include <QPainter>
 
 namespace Norvane { namespace UI {
@@ -21,13 +22,18 @@ QString SliderNumbers::textOf(double value)
     return QString::number(value + 0.0, 'g', 6);
 }
 
-QFont SliderNumbers::smallFont(const QFont& font)
+QFont SliderNumbers::smallFont(const QFont& font, int room)
 {
-    if (m_smallFont.pointSize() != kPoints || font != m_font) {
-        m_font = font;
-        m_smallFont = font;
-        m_smallFont.setPointSize(kPoints);
-    }
+    if (room == m_room && font == m_font)
+        return m_smallFont;
+    m_font = font;
+    m_room = room;
+    m_smallFont = font;
+    m_smallFont.setPointSize(kPoints);
+    // Where a desktop has made all fonts larger, and sliders not.
+    const int ascent = QFontMetrics(m_smallFont).ascent();
+    if (ascent > room && room > 0)
+        m_smallFont.setPixelSize(qMax(1, QFontInfo(m_smallFont).pixelSize() * room / ascent));
     return m_smallFont;
 }
 

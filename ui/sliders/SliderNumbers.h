@@ -18,8 +18,8 @@ public:
     /// \a value as sliders write it.
     static QString textOf(double value);
 
-    /// \a font in the size of numbers.
-    QFont smallFont(const QFont& font);
+    /// \a font in the size of numbers, which are at most \a room pixels high.
+    QFont smallFont(const QFont& font, int room);
 
     QSize sizeOf(const QPainter& painter, double value);
     void draw(QPainter& painter, const QPoint& topLeft, double value);
@@ -32,6 +32,7 @@ private:
     const Number& numberOf(const QPainter& painter, double value);
 
     QFont m_font;
+    int m_room = -1;
     QFont m_smallFont;
     QFont m_numbersFont;
     QMap<double, Number> m_numbers;

@@ -2,25 +2,20 @@
 
 #include <ui/sliders/Slider.h>
 
+#include <ui/sliders/SliderColors.h>
 #include <ui/sliders/SliderLabels.h>
 #include <ui/sliders/SliderPrivate.h>
-#include <ui/toolkit/Painting.h>
 
 #include <QLine>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 
-#include <cmath>
 #include <cstdlib>
 
 namespace Norvane { namespace UI {
 
 namespace {
-
-/// Contrast to the window, from 1 to 21, below which ticks and numbers cannot be seen.
-const qreal kTickContrast = 1.4;
-const qreal kLabelContrast = 3;
 
 /// How far the base of the triangle lies from the thumb, in pixels.
 const int kTriangleReach = 8;
@@ -28,30 +23,6 @@ const int kTriangleReach = 8;
 QRect rectBetween(int left, int top, int right, int bottom)
 {
     return QRect(QPoint(left, top), QPoint(right, bottom));
-}
-
-qreal luminance(const QColor& color)
-{
-    const auto linear = [](qreal channel) { return std::pow(channel, 2.2); };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-qreal contrast(const QColor& a, const QColor& b)
-{
-    const qreal first = luminance(a) + 0.05;
-    const qreal second = luminance(b) + 0.05;
-    return qMax(first, second) / qMin(first, second);
-}
-
-/// The colour of \a role, or where a dark palette hides it on the window, one between window and text.
-QColor colorOnWindow(const QPalette& palette, QPalette::ColorRole role, qreal leastContrast)
-{
-    const QColor window = palette.color(QPalette::Window);
-    if (contrast(palette.color(role), window) >= leastContrast)
-        return palette.color(role);
-    const QColor text = palette.color(QPalette::WindowText);
-    return QColor((window.red() + text.red()) / 2, (window.green() + text.green()) / 2,
-                  (window.blue() + text.blue()) / 2);
 }
 
 } // namespace
@@ -143,8 +114,8 @@ void Slider::Private::paint(QPainter& painter, const QRect& tickRect, const QRec
     q->slotSize(start, end);
     const bool isHorizontal = orientation == Qt::Horizontal;
     const int majorLength = (isHorizontal ? tickRect.height() : tickRect.width()) + 1;
-    const QPen tickPen(colorOnWindow(q->palette(), QPalette::Mid, kTickContrast));
-    const QPen labelPen(colorOnWindow(q->palette(), QPalette::Shadow, kLabelContrast));
+    const QPen tickPen(tickColor(q->palette()));
+    const QPen labelPen(numberColor(q->palette()));
 
     QVector<QLine> lines;
     lines.reserve(ticks.size());
@@ -196,8 +167,9 @@ void Slider::paintTicks(QPainter& painter)
     QRect tickRect;
     QRect labelRect;
     figureTickSlots(tickRect, labelRect);
+    const bool isHorizontal = d->orientation == Qt::Horizontal;
     const QFont before = painter.font();
-    painter.setFont(d->numbers.smallFont(before));
+    painter.setFont(d->numbers.smallFont(before, isHorizontal ? labelRect.height() : height()));
 
     SliderLabels labels(d->orientation, labelRect, rect());
     const QRect minimumBox = labels.minimumBox(d->numbers.sizeOf(painter, d->minimum));
@@ -214,7 +186,7 @@ void Slider::paintTicks(QPainter& painter)
         paintSquareTicks(painter, tickRect, &labelRect);
     d->labels = nullptr;
 
-    painter.setPen(colorOnWindow(palette(), QPalette::Shadow, kLabelContrast));
+    painter.setPen(numberColor(palette()));
     if (showsMinimum)
         d->numbers.draw(painter, minimumBox.topLeft(), d->minimum);
     if (showsMaximum)

@@ -149,19 +149,15 @@ void tst_LogSlider::marksFollowTheGroove_data()
 {
     QTest::addColumn<int>("orientation");
     QTest::addColumn<bool>("rightToLeft");
-    QTest::addColumn<QList<int>>("powers");
-    // The middle one lies under the handle.
-    const QList<int> rising = QList<int>() << 0 << 100 << 300 << 400;
-    QTest::newRow("horizontal") << int(Qt::Horizontal) << false << rising;
-    QTest::newRow("right to left") << int(Qt::Horizontal) << true << rising;
-    QTest::newRow("vertical") << int(Qt::Vertical) << false << rising;
+    QTest::newRow("horizontal") << int(Qt::Horizontal) << false;
+    QTest::newRow("right to left") << int(Qt::Horizontal) << true;
+    QTest::newRow("vertical") << int(Qt::Vertical) << false;
 }
 
 void tst_LogSlider::marksFollowTheGroove()
 {
     QFETCH(int, orientation);
     QFETCH(bool, rightToLeft);
-    QFETCH(QList<int>, powers);
     const bool isVertical = orientation == Qt::Vertical;
     LogSlider slider{Qt::Orientation(orientation)};
     slider.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
@@ -173,8 +169,9 @@ void tst_LogSlider::marksFollowTheGroove()
     slider.setExpTickColor(QColor(255, 0, 1));
     slider.setTickColor(QColor(0, 255, 1));
     QImage image = imageOf(slider);
-    QCOMPARE(placesOf(image, slider.expTickColor(), isVertical), powers);
-    QList<int> others = placesOf(image, slider.tickColor(), isVertical);
+    // The middle one lies under the handle.
+    QCOMPARE(placesOf(image, slider.expTickColor(), isVertical), QList<int>() << 0 << 100 << 300 << 400);
+    const QList<int> others = placesOf(image, slider.tickColor(), isVertical);
     const bool rises = !isVertical && !rightToLeft;
     // 0.2, 2 and 5; positions are truncated towards 1.
     for (const int place : {31, 130, 169})

@@ -18,7 +18,6 @@ private Q_SLOTS:
     void numbersNeverTouch_data();
     void numbersNeverTouch();
     void darkPaletteShowsNumbers();
-    void stepsArePaintedInOrder();
     void ticksFollowEveryChange();
     void sameColourDoesNotRepaint();
 };
@@ -57,7 +56,6 @@ public:
         return result;
     }
 
-    QStringList calls;
     int paintings = 0;
     bool hasThumb = true;
     bool hasTicks = true;
@@ -68,39 +66,13 @@ protected:
         ++paintings;
         Slider::paintEvent(event);
     }
-    void paintBackground(QPainter& painter) override
-    {
-        calls.append(QLatin1String("background"));
-        Slider::paintBackground(painter);
-    }
-    void paintTicks(QPainter& painter) override
-    {
-        calls.append(QLatin1String("ticks"));
-        Slider::paintTicks(painter);
-    }
     void paintTick(QVector<QLine>& lines, const QRect& tickRect, int position, int length) override
     {
         if (hasTicks)
             Slider::paintTick(lines, tickRect, position, length);
     }
-    void paintLinearTicks(QPainter& painter, const QRect& tickRect, const QRect* labelRect) override
-    {
-        calls.append(QLatin1String("linear"));
-        Slider::paintLinearTicks(painter, tickRect, labelRect);
-    }
-    void paintLogTicks(QPainter& painter, const QRect& tickRect, const QRect* labelRect) override
-    {
-        calls.append(QLatin1String("log"));
-        Slider::paintLogTicks(painter, tickRect, labelRect);
-    }
-    void paintSquareTicks(QPainter& painter, const QRect& tickRect, const QRect* labelRect) override
-    {
-        calls.append(QLatin1String("square"));
-        Slider::paintSquareTicks(painter, tickRect, labelRect);
-    }
     void paintThumb(QPainter& painter) override
     {
-        calls.append(QLatin1String("thumb"));
         if (hasThumb)
             Slider::paintThumb(painter);
     }
@@ -251,23 +223,6 @@ void tst_SliderPaint::darkPaletteShowsNumbers()
             brightest = qMax(brightest, qGray(image.pixel(x, y)));
     }
     QVERIFY(brightest > 110);
-}
-
-void tst_SliderPaint::stepsArePaintedInOrder()
-{
-    TestSlider slider(Slider::RealValue, Slider::LogMode, Qt::Horizontal, 200);
-    const auto steps = [&] {
-        slider.calls.clear();
-        slider.image();
-        return slider.calls.join(QLatin1String(" "));
-    };
-    QCOMPARE(steps(), QString::fromLatin1("background ticks square thumb"));
-    slider.setRange(1, 10);
-    QCOMPARE(steps(), QString::fromLatin1("background ticks log thumb"));
-    slider.setRange(-10, -1);
-    QCOMPARE(steps(), QString::fromLatin1("background ticks square thumb"));
-    slider.setMode(Slider::LinearMode);
-    QCOMPARE(steps(), QString::fromLatin1("background ticks linear thumb"));
 }
 
 // The choice of marks is kept from one painting to the next.
