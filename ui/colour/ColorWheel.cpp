@@ -60,10 +60,7 @@ void ColorWheel::display(const Shown& next)
         return;
     const QRegion before = d->markRegion();
     d->shown = next;
-    if (d->isShadedOtherwise(now))
-        update();
-    else
-        update(before | d->markRegion());
+    update(before | d->markRegion() | d->changedRegion(now));
     reportAccessibleValue(this, double(getClampedHue()));
 }
 

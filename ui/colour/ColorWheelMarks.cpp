@@ -13,29 +13,8 @@ namespace {
 const double kTurn = 2.0 * 3.14159265358979323846;
 /// Around a mark: half of a pen, and what antialiasing adds.
 const int kMargin = 2;
-
-QPolygonF piecesOf(const QLineF& line)
-{
-    const int pieces = 8;
-    QPolygonF points;
-    for (int i = 0; i <= pieces; ++i)
-        points.append(line.pointAt(i / double(pieces)));
-    return points;
-}
-
-QPolygonF piecesOf(const QRectF& circle)
-{
-    const int pieces = 32;
-    // The middle of a piece bulges by half a percent of the radius: chords are laid half outside.
-    const double bulge = 1.0 - std::cos(kTurn / pieces / 2.0);
-    const double radius = circle.width() / 2.0 * (1.0 + bulge / 2.0);
-    QPolygonF points;
-    for (int i = 0; i <= pieces; ++i) {
-        const double angle = i * kTurn / pieces;
-        points.append(circle.center() + radius * QPointF(std::cos(angle), std::sin(angle)));
-    }
-    return points;
-}
+/// Of a line, in pixels. Many small rectangles take longer to paint than a few that are larger.
+const double kPiece = 64.0;
 
 /// Collects where something is painted in a widget.
 class PaintedRegion
@@ -53,15 +32,36 @@ public:
         // Of a saturation without bounds, the mark may be farther away than an integer can tell.
         m_region |= (painted & QRectF(QPointF(), m_size)).toAlignedRect();
     }
-    /// Piece by piece: together they are much smaller than the rectangle around all.
-    void addPieces(const QPolygonF& points)
+    /// Lines are added piece by piece: together the pieces are much smaller than the rectangle around all.
+    void addLine(const QLineF& line)
     {
-        for (int i = 1; i < int(points.size()); ++i)
-            add(QRectF(points[i - 1], points[i]).normalized());
+        const int pieces = 1 + int(line.length() / kPiece);
+        for (int i = 0; i < pieces; ++i)
+            addPiece(line.pointAt(i / double(pieces)), line.pointAt((i + 1) / double(pieces)), 0.0);
+    }
+    void addCircle(const QRectF& circle)
+    {
+        const double radius = circle.width() / 2.0;
+        const int pieces = std::clamp(int(kTurn * radius / kPiece), 8, 64);
+        // Half of what the arc bulges from its chord: the chords lie around the arc.
+        const double bulge = radius * (1.0 - std::cos(kTurn / pieces / 2.0)) / 2.0;
+        const double outer = radius + bulge;
+        QPointF from = circle.center() + QPointF(outer, 0.0);
+        for (int i = 1; i <= pieces; ++i) {
+            const double angle = i * kTurn / pieces;
+            const QPointF to = circle.center() + outer * QPointF(std::cos(angle), std::sin(angle));
+            addPiece(from, to, bulge);
+            from = to;
+        }
     }
     QRegion region() const { return m_region; }
 
 private:
+    void addPiece(const QPointF& from, const QPointF& to, double bulge)
+    {
+        add(QRectF(from, to).normalized().adjusted(-bulge, -bulge, bulge, bulge));
+    }
+
     QSizeF m_size;
     QRegion m_region;
 };
@@ -89,12 +89,27 @@ bool ColorWheel::Private::isShadedOtherwise(const Shown& other) const
 {
     switch (displayMode) {
     case kInnerSquare:
-        return shown.hue != other.hue || (shown.value < 0.0f) != (other.value < 0.0f);
+        return (shown.value < 0.0f) != (other.value < 0.0f);
     case kValueRing:
         return false;
     default:
         return shown.value != other.value;
     }
+}
+
+bool ColorWheel::Private::hasOtherSquare(const Shown& other) const
+{
+    return displayMode == kInnerSquare && (shown.hue != other.hue || isShadedOtherwise(other));
+}
+
+QRegion ColorWheel::Private::changedRegion(const Shown& other) const
+{
+    if (isShadedOtherwise(other))
+        return wheel->rect();
+    PaintedRegion painted(wheel->size());
+    if (hasOtherSquare(other))
+        painted.add(measures().innerSquare());
+    return painted.region();
 }
 
 QPointF ColorWheel::Private::hueMark() const
@@ -170,9 +185,9 @@ QRegion ColorWheel::Private::markRegion() const
     if (displayMode == kValueRing)
         painted.add(circleMark(geometry.centre)); // the cross
     if (!guideLine().isNull())
-        painted.addPieces(piecesOf(guideLine()));
+        painted.addLine(guideLine());
     if (!guideCircle().isNull())
-        painted.addPieces(piecesOf(guideCircle()));
+        painted.addCircle(guideCircle());
     if (!rubberBand().isNull())
         painted.add(rubberBand());
     return painted.region();

@@ -1,4 +1,4 @@
-// How a wheel looks. All functions but paintDisc() paint in wheel coordinates.
+// How a wheel looks. All functions but updateBase() paint in wheel coordinates.
 
 #include <ui/colour/ColorWheelPrivate.h>
 
@@ -20,7 +20,6 @@ namespace {
 const float kBright = 0.6f;
 /// Below this, a colour is nearly black.
 const float kDark = 0.1f;
-const int kMostSquarePixels = 512;
 
 struct MarkColors {
     QColor normal;
@@ -41,6 +40,26 @@ void useWheelCoordinates(QPainter& painter, const QSize& size)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
 }
 
+/// Fills \a image with the part at \a corner of a square of \a side pixels: saturation from left to right,
+/// value from bottom to top.
+void fillSquare(QImage& image, float hue, int side, const QPoint& corner)
+{
+    // Saturation leads from white to the pure hue, and value from black to that, both in a straight line.
+    float pure[3];
+    Colour::hsvToRgb(hue, 1.0f, 1.0f, &pure[0], &pure[1], &pure[2]);
+    const int left = corner.x();
+    const int right = left + image.width();
+    for (int y = 0; y < image.height(); ++y) {
+        QRgb* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        const float white = 255.0f * (side - 1 - corner.y() - y) / side;
+        const float red = white * (pure[0] - 1.0f) / side;
+        const float green = white * (pure[1] - 1.0f) / side;
+        const float blue = white * (pure[2] - 1.0f) / side;
+        for (int x = left; x < right; ++x)
+            *line++ = qRgb(int(white + red * x), int(white + green * x), int(white + blue * x));
+    }
+}
+
 void paintTriangle(QPainter& painter, const QPolygonF& triangle, const QColor& color)
 {
     painter.setPen(Qt::black);
@@ -58,15 +77,13 @@ void ColorWheel::paintEvent(QPaintEvent*)
     if (!wheel.isUsable())
         return;
     QPainter painter(this);
-    d->paintDisc(painter);
+    d->updateBase();
+    painter.drawPixmap(0, 0, d->basePixmap);
     useWheelCoordinates(painter, size());
+    const bool isTooSaturated = d->shown.saturation > 1.0f;
     if (d->displayMode == kValueRing)
         paintTriangle(painter, d->ringTriangle(), markColors().normal);
-    d->paintShade(painter);
-    if (d->displayMode == kInnerSquare)
-        d->paintSquare(painter);
-    const bool isTooSaturated = d->shown.saturation > 1.0f;
-    if (d->displayMode != kValueRing)
+    else
         paintTriangle(painter, d->hueTriangle(), isTooSaturated ? markColors().warning : markColors().normal);
     if (d->displayMode == kInnerSquare) {
         d->paintMark(painter, d->squareMark());
@@ -84,26 +101,30 @@ bool ColorWheel::Private::DiscKey::operator==(const DiscKey& other) const
            hueRotation == other.hueRotation && density == other.density && window == other.window;
 }
 
-void ColorWheel::Private::paintDisc(QPainter& painter)
+void ColorWheel::Private::updateBase()
 {
     const qreal density = UI::devicePixelRatio(wheel);
-    const DiscKey key = {displayMode,
-                         wheel->size(),
-                         zoom,
-                         pan,
-                         hueRotation,
-                         density,
-                         wheel->palette().color(QPalette::Window).rgba()};
-    if (discPixmap.isNull() || !(key == discKey)) {
+    const QRgb window = wheel->palette().color(QPalette::Window).rgba();
+    const DiscKey key = {displayMode, wheel->size(), zoom, pan, hueRotation, density, window};
+    const bool isNew = discPixmap.isNull() || !(key == discKey);
+    if (isNew) {
         discKey = key;
         discPixmap = QPixmap((QSizeF(wheel->size()) * density).toSize());
         discPixmap.fill(Qt::transparent);
         setDevicePixelRatio(discPixmap, density);
-        QPainter discPainter(&discPixmap);
-        useWheelCoordinates(discPainter, wheel->size());
-        drawDisc(discPainter);
+        QPainter painter(&discPixmap);
+        useWheelCoordinates(painter, wheel->size());
+        drawDisc(painter);
     }
-    painter.drawPixmap(0, 0, discPixmap);
+    if (isNew || isShadedOtherwise(baseShown)) {
+        basePixmap = discPixmap;
+        QPainter painter(&basePixmap);
+        useWheelCoordinates(painter, wheel->size());
+        drawShade(painter);
+    }
+    if (hasOtherSquare(baseShown) || (isNew && displayMode == kInnerSquare))
+        drawSquare(density);
+    baseShown = shown;
 }
 
 void ColorWheel::Private::drawDisc(QPainter& painter) const
@@ -140,7 +161,7 @@ void ColorWheel::Private::drawRing(QPainter& painter) const
     painter.drawPath(ring);
 }
 
-void ColorWheel::Private::paintShade(QPainter& painter) const
+void ColorWheel::Private::drawShade(QPainter& painter) const
 {
     const WheelGeometry geometry = measures();
     const double r = geometry.innerRadius;
@@ -155,40 +176,30 @@ void ColorWheel::Private::paintShade(QPainter& painter) const
     painter.setOpacity(std::clamp(darkness, 0.0, 1.0));
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::black);
-    // Around the square, another disc covers it.
-    if (darkness > 0.0 && displayMode != kInnerSquare)
-        painter.drawEllipse(geometry.centre, r, r);
+    if (displayMode == kInnerSquare) {
+        // What covers the disc around the square.
+        painter.setOpacity(1.0);
+        painter.setBrush(wheel->palette().color(QPalette::Window));
+    }
+    painter.drawEllipse(geometry.centre, r, r);
     painter.setOpacity(1.0);
 }
 
-void ColorWheel::Private::paintSquare(QPainter& painter)
+void ColorWheel::Private::drawSquare(qreal density)
 {
-    const WheelGeometry geometry = measures();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(wheel->palette().color(QPalette::Window));
-    painter.drawEllipse(geometry.centre, geometry.innerRadius, geometry.innerRadius);
-    const QRectF target = geometry.innerSquare();
-    // Half as many pixels are enough for a picture without edges, and some hundred for any size of it.
-    const int half = qRound(target.width() * UI::devicePixelRatio(wheel) / 2.0);
-    const int side = std::clamp(half, 1, kMostSquarePixels);
-    if (squareImage.width() != side || squareHue != shown.hue)
-        drawSquare(side);
-    painter.drawImage(target, squareImage);
-}
-
-void ColorWheel::Private::drawSquare(int side)
-{
-    if (squareImage.width() != side)
-        squareImage = QImage(side, side, QImage::Format_RGB32);
-    squareHue = shown.hue;
-    for (int y = 0; y < side; ++y) {
-        QRgb* const line = reinterpret_cast<QRgb*>(squareImage.scanLine(y));
-        for (int x = 0; x < side; ++x) {
-            float r = 0.0f, g = 0.0f, b = 0.0f;
-            Colour::hsvToRgb(shown.hue, float(x) / side, float(y) / side, &r, &g, &b);
-            line[x] = qRgb(int(r * 255.0f), int(g * 255.0f), int(b * 255.0f));
-        }
-    }
+    // On whole pixels of the screen: an image that need not be scaled is painted much faster.
+    const QRectF target = measures().innerSquare();
+    const int side = qRound(target.width() * density);
+    const QPoint place(qRound(target.left() * density),
+                       qRound((wheel->height() - target.bottom()) * density));
+    const QRect whole(place, QSize(side, side));
+    const QRect part = whole & basePixmap.rect();
+    if (squareImage.size() != part.size())
+        squareImage = QImage(part.size(), QImage::Format_RGB32);
+    fillSquare(squareImage, shown.hue, side, part.topLeft() - place);
+    QPainter painter(&basePixmap);
+    painter.scale(1.0 / density, 1.0 / density);
+    painter.drawImage(part.topLeft(), squareImage);
 }
 
 void ColorWheel::Private::paintCross(QPainter& painter) const

@@ -58,8 +58,12 @@ struct ColorWheel::Private {
     WheelGeometry measures() const;
     /// In radians.
     double angleOf(float hue) const;
-    /// Whether more than the marks must be painted for \a shown in place of \a other.
+    /// Whether the whole picture must be painted for what is shown in place of \a other.
     bool isShadedOtherwise(const Shown& other) const;
+    /// Whether the square of saturation and value must be painted anew.
+    bool hasOtherSquare(const Shown& other) const;
+    /// Where the picture below the marks changes when \a other becomes what is shown, in the widget.
+    QRegion changedRegion(const Shown& other) const;
     /// Middles of the marks, in wheel coordinates.
     QPointF hueMark() const;
     QPointF saturationMark() const;
@@ -73,9 +77,8 @@ struct ColorWheel::Private {
     /// Where all these are painted, in the widget.
     QRegion markRegion() const;
 
-    void paintDisc(QPainter& painter);
-    void paintShade(QPainter& painter) const;
-    void paintSquare(QPainter& painter);
+    /// Makes the picture without marks, as far as it is not what it has to be.
+    void updateBase();
     void paintCross(QPainter& painter) const;
     void paintGuides(QPainter& painter) const;
     void paintRubberBand(QPainter& painter) const;
@@ -95,16 +98,18 @@ struct ColorWheel::Private {
     Drag drag;
     int wheelTurn = 0; ///< of the mouse wheel, less than a notch
 
-    /// Kept from one repaint to the next.
+    /// Kept from one repaint to the next: the disc of full value, and what is painted below the marks.
     QPixmap discPixmap;
     DiscKey discKey = DiscKey();
-    QImage squareImage;
-    float squareHue = 0.0f;
+    QPixmap basePixmap;
+    Shown baseShown;    ///< what the base was made for
+    QImage squareImage; ///< as it lies in the base, kept for its memory
 
 private:
     void drawDisc(QPainter& painter) const;
     void drawRing(QPainter& painter) const;
-    void drawSquare(int side);
+    void drawShade(QPainter& painter) const;
+    void drawSquare(qreal density);
 };
 
 }} // namespace Norvane::UI
