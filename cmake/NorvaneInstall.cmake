@@ -34,8 +34,11 @@ set(public_headers
     ui/docking/SnappableWindow.h
     ui/docking/TitleBarButton.h
     ui/docking/WidgetUtils.h
+    ui/progress/DialogProgressManager.h
+    ui/progress/ProgressDialog.h
     ui/progress/ProgressManager.h
     ui/progress/ProgressTask.h
+    ui/progress/ProgressWidget.h
     ui/progress/Relaxed.h
     ui/progress/TaskPrivate.h
     ui/sliders/LogSlider.h

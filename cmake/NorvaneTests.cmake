@@ -39,6 +39,10 @@ function(norvane_test_environment name)
         "LSAN_OPTIONS=suppressions=${support}/lsan.supp:print_suppressions=0"
         "UBSAN_OPTIONS=print_stacktrace=1"
         "TSAN_OPTIONS=suppressions=${support}/tsan.supp:second_deadlock_stack=1")
+    if(NORVANE_SANITIZE MATCHES "thread")
+        # Without the threads of the X and GLib libraries, which are not built for the sanitizer either.
+        list(APPEND environment "QT_QPA_PLATFORM=offscreen" "QT_NO_GLIB=1")
+    endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${timeout}
         ENVIRONMENT "${environment}"

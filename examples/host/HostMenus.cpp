@@ -26,6 +26,7 @@ void HostWindow::buildMenus()
     buildPanelsMenu();
     buildArrangementMenu();
     buildViewMenu();
+    buildTasksMenu();
     QMenu* const help = menuBar()->addMenu(tr("&Help"));
     addEntry(help, tr("&What Is This?"), SLOT(askAboutControl()), tr("Shift+F1"));
     addEntry(help, tr("&About"), SLOT(about()));
@@ -76,6 +77,12 @@ void HostWindow::buildArrangementMenu()
     addEntry(menu, tr("Side &by Side"), nullptr, tr("Ctrl+2"))->setData(int(kSideBySideArrangement));
     addEntry(menu, tr("&Review"), nullptr, tr("Ctrl+3"))->setData(int(kReviewArrangement));
     connect(menu, SIGNAL(triggered(QAction*)), this, SLOT(chooseArrangement(QAction*)));
+}
+
+void HostWindow::buildTasksMenu()
+{
+    QMenu* const menu = menuBar()->addMenu(tr("&Tasks"));
+    addEntry(menu, tr("&Analyse Pictures"), SLOT(analysePictures()), tr("Ctrl+Shift+A"));
 }
 
 void HostWindow::buildViewMenu()

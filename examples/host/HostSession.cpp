@@ -121,6 +121,9 @@ void HostWindow::closeEvent(QCloseEvent* event)
             return;
         }
     }
+    // A dialog that was never shown has no place.
+    if (m_progress.progressWidget()->testAttribute(Qt::WA_WState_Created))
+        m_progress.saveState();
     DockMainWindow::closeEvent(event);
 }
 

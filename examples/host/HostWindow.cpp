@@ -26,7 +26,9 @@ namespace Norvane { namespace Host {
 using UI::Dock;
 
 HostWindow::HostWindow()
-    : m_panels(&m_pictures)
+    : m_progress(this)
+    , m_analysis(PictureList::thumbnailSize() * 2)
+    , m_panels(&m_pictures)
     , m_controlHelp(new ControlHelp(this))
 {
     setObjectName(QLatin1String("HostWindow"));
@@ -36,6 +38,8 @@ HostWindow::HostWindow()
     applyOptions();
     buildMenus();
     updateTitle();
+    connect(&m_analysis, SIGNAL(analysed(QString, QImage, QImage)), &m_pictures,
+            SLOT(setAnalysis(QString, QImage, QImage)));
     connect(&m_panels, SIGNAL(created(QWidget*)), this, SLOT(connectPanel(QWidget*)));
     connect(this, SIGNAL(widgetRemoved(Norvane::UI::Dock*, QWidget*)), this, SLOT(panelRemoved()));
     connect(this, SIGNAL(widgetActivated(Norvane::UI::Dock*, QWidget*)), this,
@@ -176,6 +180,11 @@ void HostWindow::choosePictures()
         return;
     QSettings().setValue(folderKey, QFileInfo(paths.first()).path());
     openPictures(paths);
+}
+
+void HostWindow::analysePictures()
+{
+    m_analysis.start(m_pictures.paths());
 }
 
 void HostWindow::openPictures(const QStringList& paths)

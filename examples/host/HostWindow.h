@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PanelRegistry.h"
+#include "PictureAnalysis.h"
 #include "PictureList.h"
 
 #include <ui/docking/DockMainWindow.h>
+#include <ui/progress/DialogProgressManager.h>
 
 #include <QPointer>
 #include <QString>
@@ -52,6 +54,7 @@ private Q_SLOTS:
     void choosePictures();
     void openPicture(const QString& path);
     void openPictures(const QStringList& paths);
+    void analysePictures();
     void chooseLayoutToSave();
     void chooseLayoutToOpen();
 
@@ -85,6 +88,7 @@ private:
     void buildFileMenu();
     void buildPanelsMenu();
     void buildArrangementMenu();
+    void buildTasksMenu();
     void buildViewMenu();
     QAction* addEntry(QMenu* menu, const QString& text, const char* slot,
                       const QString& shortcut = QString());
@@ -116,6 +120,9 @@ private:
     void viewerMayHaveChanged();
 
     PictureList m_pictures;
+    UI::DialogProgressManager m_progress;
+    /// Its tasks are the manager's.
+    PictureAnalysis m_analysis;
     PanelRegistry m_panels;
     QString m_layoutPath;
     ControlHelp* m_controlHelp;

@@ -43,6 +43,21 @@ QPixmap makeThumbnail(const QString& path)
     return thumbnail;
 }
 
+QPixmap withWaveform(const QImage& picture, const QImage& waveform)
+{
+    QPixmap thumbnail = emptyThumbnail();
+    QRect place(QPoint(0, 0), picture.size());
+    place.moveCenter(thumbnail.rect().center());
+    QRect strip = thumbnail.rect();
+    strip.setTop(strip.height() / 2);
+    QPainter painter(&thumbnail);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, picture);
+    painter.fillRect(strip, QColor(0, 0, 0, 160));
+    painter.drawImage(strip, waveform);
+    return thumbnail;
+}
+
 } // namespace
 
 PictureList::PictureList(QObject* parent)
@@ -128,6 +143,16 @@ void PictureList::makeNextThumbnail()
         Q_EMIT dataChanged(index(row), index(row));
         return;
     }
+}
+
+void PictureList::setAnalysis(const QString& path, const QImage& thumbnail, const QImage& waveform)
+{
+    const int row = rowOf(path);
+    if (row < 0)
+        return;
+    m_entries[row].thumbnail = QIcon(withWaveform(thumbnail, waveform));
+    m_entries[row].hasThumbnail = true;
+    Q_EMIT dataChanged(index(row), index(row));
 }
 
 int PictureList::rowOf(const QString& path) const

@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QIcon>
+#include <QImage>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -27,6 +28,10 @@ public:
 
     /// Thumbnails are shown at this size, on screens of any density.
     static QSize thumbnailSize();
+
+public Q_SLOTS:
+    /// Shows a picture's waveform below its thumbnail; both are in physical pixels.
+    void setAnalysis(const QString& path, const QImage& thumbnail, const QImage& waveform);
 
 private Q_SLOTS:
     void makeNextThumbnail();

@@ -3,6 +3,7 @@
 #include "Palettes.h"
 
 #include <ui/toolkit/Application.h>
+#include <ui/widgets/AppSettings.h>
 
 #include <QApplication>
 #include <QSettings>
@@ -48,6 +49,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QLatin1String("norvane-host"));
     QApplication::setApplicationVersion(QLatin1String(NORVANE_HOST_VERSION));
     QSettings::setDefaultFormat(QSettings::IniFormat);
+    UI::AppSettings::SetName("norvane-host");
 
     // By now without the arguments that are Qt's own.
     const CommandLine commandLine = CommandLine::parse(QApplication::arguments());

@@ -66,6 +66,8 @@ ProgressWidget::~ProgressWidget()
 QPushButton* ProgressWidget::addButton(const QString& text, const char* slot)
 {
     QPushButton* const button = new QPushButton(text, this);
+    // Enter, typed when the dialog happens to appear, must not stop a job.
+    button->setAutoDefault(false);
     connect(button, SIGNAL(clicked()), this, slot);
     return button;
 }
