@@ -137,9 +137,9 @@ void LogSlider::Painting::paintDecade(int exponent)
 
 void LogSlider::Painting::paintMark(int exponent, int count, bool wantsLabel)
 {
-    const LogSlider::Private& d = *m_slider->d;
+    const LogSlider::Private& slider = *m_slider->d;
     const int position = m_slider->tickPosition(count * powerOfTen(exponent), m_start, m_span);
-    const bool isLast = exponent == d.maxExp;
+    const bool isLast = exponent == slider.maxExp;
     const int width = labelWidth(exponent, count);
     const int begin = std::abs(position - m_start) + (isLast ? -kLabelGap - width : kLabelGap);
     const int end = begin + width;
@@ -152,7 +152,7 @@ void LogSlider::Painting::paintMark(int exponent, int count, bool wantsLabel)
         m_labelEnd = end;
     if (m_slider->checkTick(m_handle, position))
         return;
-    m_painter.setPen(count == 1 ? d.expTickColor : d.tickColor);
+    m_painter.setPen(count == 1 ? slider.expTickColor : slider.tickColor);
     m_slider->drawTick(m_painter, m_column, position, hasLabel);
     if (!hasLabel || isBehindHandle(begin, end))
         return;

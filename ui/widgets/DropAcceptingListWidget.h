@@ -18,7 +18,7 @@ public:
 
 Q_SIGNALS:
     /// URLs were dropped: their local paths in the order in which they came, empty for what is no local file.
-    void droppedUrls(const QStringList& paths);
+    void droppedUrls(const QStringList& paths) override;
 };
 
 }} // namespace Norvane::UI
