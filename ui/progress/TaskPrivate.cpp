@@ -55,10 +55,12 @@ QString TaskPrivate::message() const
     return m_message;
 }
 
+// The former text is freed without the lock.
 void TaskPrivate::setMessage(const QString& message)
 {
+    QString text = message;
     const std::lock_guard<std::mutex> guard(m_messageMutex);
-    m_message = message;
+    m_message.swap(text);
 }
 
 }} // namespace Norvane::UI

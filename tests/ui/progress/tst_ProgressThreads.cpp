@@ -57,6 +57,7 @@ class tst_ProgressThreads : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
+    void failsWhileRead();
     void stormPasses();
     void stormPassesDialog();
 };
@@ -65,6 +66,26 @@ void tst_ProgressThreads::initTestCase()
 {
     // The one that is asked where windows were.
     static ProgressManager first;
+}
+
+// Failing does not take the mutex that the reader holds.
+void tst_ProgressThreads::failsWhileRead()
+{
+    ProgressManager manager;
+    ProgressTask task(QString(), 10, 0, nullptr, &manager);
+    const QExplicitlySharedDataPointer<TaskPrivate> record(manager.tasks().first());
+    std::atomic<bool> isOver(false);
+    std::thread worker([&] {
+        for (int i = 0; i < 2000; ++i)
+            task.setErrorState(TaskStorm::message(i));
+        isOver = true;
+    });
+    bool isWhole = true;
+    const QMutexLocker locker(manager.lock());
+    while (!isOver)
+        isWhole = TaskStorm::isWhole(record->message()) && isWhole;
+    worker.join();
+    QVERIFY(isWhole);
 }
 
 void tst_ProgressThreads::stormPasses()
