@@ -56,7 +56,7 @@ bool DialogProgressManager::createProgressWidget(QWidget* parentWidget)
 {
     m_dialog = new ProgressDialog(this, parentWidget);
     m_dialog->setObjectName(QLatin1String("Progress.1"));
-    connect(this, SIGNAL(wake()), m_dialog, SLOT(wake()));
+    connect(this, SIGNAL(lookWanted()), m_dialog, SLOT(wake()));
     Q_EMIT windowCreated(progressWidget());
     return true;
 }

@@ -87,6 +87,8 @@ ProgressDialog::ProgressDialog(ProgressManager* manager, QWidget* parentWidget)
     pages->addWidget(m_scrollArea);
     setLayout(pages);
     adjustSize();
+    // What was wanted of a former dialog is never answered.
+    manager->beginLook();
 }
 
 ProgressDialog::~ProgressDialog() = default;
@@ -119,6 +121,7 @@ void ProgressDialog::closeEvent(QCloseEvent* event)
 
 void ProgressDialog::wake()
 {
+    m_manager->beginLook();
     if (sender() == m_manager && isUpToDate())
         return;
     if (m_isUpdating) {

@@ -5,6 +5,7 @@
 
 #include <QMutexLocker>
 #include <QString>
+#include <QThread>
 #include <QWidget>
 
 namespace Norvane { namespace UI {
@@ -24,11 +25,12 @@ std::atomic<ProgressManager*> ProgressManager::_instance(nullptr);
 ProgressManager::ProgressManager()
     : m_count(0)
     , m_wakeCount(0)
+    , m_isLookWanted(false)
 {
     ProgressManager* none = nullptr;
     _instance.compare_exchange_strong(none, this);
     // The first connection, so that whoever is woken finds the wake counted. On the emitting thread.
-    connect(this, SIGNAL(wake()), this, SLOT(countWake()), Qt::DirectConnection);
+    connect(this, SIGNAL(wake()), this, SLOT(passOnWake()), Qt::DirectConnection);
 }
 
 ProgressManager::~ProgressManager()
@@ -97,9 +99,16 @@ unsigned ProgressManager::wakeCount() const
 }
 
 // Makes what was changed before the wake visible to a thread that reads the count.
-void ProgressManager::countWake()
+void ProgressManager::passOnWake()
 {
     m_wakeCount.fetch_add(1, std::memory_order_release);
+    if (QThread::currentThread() == thread() || !m_isLookWanted.exchange(true))
+        Q_EMIT lookWanted();
+}
+
+void ProgressManager::beginLook()
+{
+    m_isLookWanted.exchange(false);
 }
 
 void ProgressManager::releaseWindow()

@@ -49,6 +49,9 @@ public:
     /// How often wake() was emitted. A value read before a look at the tasks tells later whether another look
     /// would find anything. Any thread.
     unsigned wakeCount() const;
+    /// Says that the GUI side is about to look at the tasks: lookWanted() may come from other threads again.
+    /// GUI thread only.
+    void beginLook();
 
     bool progressVisible();
 
@@ -71,9 +74,12 @@ Q_SIGNALS:
     void wake();
     /// A subclass has made its window.
     void windowCreated(QWidget* widget);
+    /// For the GUI side: wake(), but from other threads only one until beginLook(). A queue that is filled
+    /// faster than it is emptied would keep the GUI thread from all its other events.
+    void lookWanted();
 
 private Q_SLOTS:
-    void countWake();
+    void passOnWake();
     void releaseWindow();
 
 private:
@@ -84,6 +90,8 @@ private:
     /// The length of m_tasks.
     std::atomic<int> m_count;
     std::atomic<unsigned> m_wakeCount;
+    /// Another thread has emitted lookWanted() since the last beginLook().
+    std::atomic<bool> m_isLookWanted;
 };
 
 }} // namespace Norvane::UI
