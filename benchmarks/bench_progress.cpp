@@ -8,7 +8,10 @@
 #include <QApplication>
 #include <QElapsedTimer>
 
+#include <malloc.h>
+
 #include <atomic>
+#include <cstddef>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -102,9 +105,45 @@ void flood(benchmark::State& state, Change change)
     state.counters["longest gap, ms"] = double(gap);
 }
 
+/// Makes tasks in turn on another thread and waits for the GUI thread to forget them. One task more keeps the
+/// dialog open.
+void comeAndGo(int tasks)
+{
+    const ProgressTask whole(QString::fromLatin1("whole"), 1, kFlags);
+    std::atomic<bool> isOver(false);
+    std::thread worker([tasks, &isOver] {
+        for (int i = 0; i < tasks; ++i) {
+            ProgressTask task(QString::number(i), 10, kFlags);
+            task.setMessage(QString::number(i));
+            task.setProgress(5);
+        }
+        isOver = true;
+    });
+    while (!isOver)
+        QCoreApplication::processEvents();
+    worker.join();
+    QCoreApplication::processEvents();
+}
+
+/// What is left on the heap by so many tasks, once as many have made it warm.
+void memoryLeft(benchmark::State& state)
+{
+    const int tasks = int(state.range(0));
+    comeAndGo(tasks);
+    const std::size_t before = mallinfo2().uordblks;
+    for (auto unused : state) {
+        (void)unused;
+        comeAndGo(tasks);
+    }
+    const double left = double(mallinfo2().uordblks) - double(before);
+    state.SetItemsProcessed(state.iterations() * tasks);
+    state.counters["left, bytes a task"] = left / double(state.iterations() * tasks);
+}
+
 // Threads and changes of each of 100 tasks.
 BENCHMARK_CAPTURE(flood, setProgress, setProgress)->Args({1, 10000})->Args({8, 100000})->UseManualTime();
 BENCHMARK_CAPTURE(flood, setMessage, setMessage)->Args({1, 10000})->Args({8, 10000})->UseManualTime();
+BENCHMARK(memoryLeft)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 }}} // namespace Norvane::Benchmarks
 

@@ -55,6 +55,12 @@ set(public_headers
     ui/widgets/FlatButton.h
     ui/widgets/SearchField.h
     ui/widgets/VerticalLayout.h)
+if(NORVANE_PYTHON)
+    list(APPEND public_headers
+        python/ProgressTaskType.h
+        python/PythonVersion.h
+        python/RunInMainThread.h)
+endif()
 foreach(header IN LISTS public_headers)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${header_dir}/${folder})
