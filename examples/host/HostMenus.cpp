@@ -64,6 +64,7 @@ void HostWindow::buildPanelsMenu()
     addEntry(menu, tr("New &Inspector"), SLOT(newInspector()));
     addEntry(menu, tr("New Contro&ls"), SLOT(newControls()));
     addEntry(menu, tr("New C&olour"), SLOT(newColour()));
+    addEntry(menu, tr("New &Script"), SLOT(newScript()));
     menu->addSeparator();
     m_notesMenu = menu->addMenu(tr("&Closed Notes"));
     connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillNotesMenu()));

@@ -109,6 +109,14 @@ bool HostWindow::saveSession(QString* problem)
 
 void HostWindow::closeEvent(QCloseEvent* event)
 {
+    // The script has yet to return to a window that is there.
+    if (m_scripts.isRunning()) {
+        connect(&m_scripts, SIGNAL(runningChanged(bool)), this, SLOT(closeAfterScript(bool)),
+                Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
+        m_scripts.interrupt();
+        event->ignore();
+        return;
+    }
     QString problem;
     // Before the panes are closed, and with them the arrangement.
     if (m_started && !saveSession(&problem)) {
@@ -125,6 +133,14 @@ void HostWindow::closeEvent(QCloseEvent* event)
     if (m_progress.progressWidget()->testAttribute(Qt::WA_WState_Created))
         m_progress.saveState();
     DockMainWindow::closeEvent(event);
+}
+
+void HostWindow::closeAfterScript(bool isRunning)
+{
+    if (isRunning)
+        return;
+    disconnect(&m_scripts, nullptr, this, SLOT(closeAfterScript(bool)));
+    close();
 }
 
 void HostWindow::chooseLayoutToSave()

@@ -28,7 +28,8 @@ using UI::Dock;
 HostWindow::HostWindow()
     : m_progress(this)
     , m_analysis(PictureList::thumbnailSize() * 2)
-    , m_panels(&m_pictures)
+    , m_scripts(&m_pictures)
+    , m_panels(&m_pictures, &m_scripts)
     , m_controlHelp(new ControlHelp(this))
 {
     setObjectName(QLatin1String("HostWindow"));
@@ -52,6 +53,8 @@ HostWindow::~HostWindow()
     // The panels go before their panes do, and panes report.
     disconnect(this, nullptr, this, nullptr);
     disconnect(qApp, nullptr, this, nullptr);
+    // Their tasks are the manager's, and they may ask for anything here.
+    m_scripts.finish();
 }
 
 QWidget* HostWindow::createPage(QString& id)
@@ -246,6 +249,13 @@ void HostWindow::newControls()
 void HostWindow::newColour()
 {
     addPanel(m_panels.createPanel(PanelRegistry::ColourKind), paneForControls());
+}
+
+void HostWindow::newScript()
+{
+    // Below the pictures, where there is room for lines.
+    Dock* const pane = findDockByName(QLatin1String("Notes."), false, true);
+    addPanel(m_panels.createPanel(PanelRegistry::ScriptKind), pane ? pane : paneForPanels());
 }
 
 void HostWindow::reopenNotes(QAction* action)

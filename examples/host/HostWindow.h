@@ -3,6 +3,7 @@
 #include "PanelRegistry.h"
 #include "PictureAnalysis.h"
 #include "PictureList.h"
+#include "ScriptInterpreter.h"
 
 #include <ui/docking/DockMainWindow.h>
 #include <ui/progress/DialogProgressManager.h>
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void newInspector();
     void newControls();
     void newColour();
+    void newScript();
     void fillNotesMenu();
     void reopenNotes(QAction* action);
 
@@ -82,6 +84,7 @@ private Q_SLOTS:
     void pictureChanged();
     void keepText(const QString& text);
     void tidyUp();
+    void closeAfterScript(bool isRunning);
 
 private:
     void buildMenus();
@@ -123,6 +126,7 @@ private:
     UI::DialogProgressManager m_progress;
     /// Its tasks are the manager's.
     PictureAnalysis m_analysis;
+    ScriptInterpreter m_scripts;
     PanelRegistry m_panels;
     QString m_layoutPath;
     ControlHelp* m_controlHelp;

@@ -7,6 +7,7 @@
 #include "NotesPanel.h"
 #include "PictureList.h"
 #include "PicturesPanel.h"
+#include "ScriptPanel.h"
 #include "ViewerPanel.h"
 
 #include <ui/docking/Dock.h>
@@ -16,7 +17,8 @@ namespace Norvane { namespace Host {
 namespace {
 
 /// By Kind.
-const char* const kKindNames[] = {"Viewer", "Pictures", "Notes", "Files", "Inspector", "Controls", "Colour"};
+const char* const kKindNames[] = {"Viewer",    "Pictures", "Notes",  "Files",
+                                  "Inspector", "Controls", "Colour", "Script"};
 const int kKindCount = sizeof kKindNames / sizeof kKindNames[0];
 
 template <class Panel>
@@ -32,9 +34,10 @@ QList<Panel*> panelsOfType(const QMap<int, QPointer<QWidget>>& panels)
 
 } // namespace
 
-PanelRegistry::PanelRegistry(PictureList* pictures, QObject* parent)
+PanelRegistry::PanelRegistry(PictureList* pictures, ScriptInterpreter* scripts, QObject* parent)
     : QObject(parent)
     , m_pictures(pictures)
+    , m_scripts(scripts)
 {
 }
 
@@ -161,6 +164,9 @@ QWidget* PanelRegistry::create(Kind kind, int number)
         break;
     case ColourKind:
         panel = new ColourPanel(number);
+        break;
+    case ScriptKind:
+        panel = new ScriptPanel(m_scripts, number);
         break;
     }
     panel->setObjectName(idText(kind, number));

@@ -13,6 +13,7 @@ namespace Norvane { namespace Host {
 class InspectorPanel;
 class NotesPanel;
 class PictureList;
+class ScriptInterpreter;
 class ViewerPanel;
 
 /// The panels of the program by their ids, such as "Viewer.1": the kind, a dot, a number from 1. An id is the
@@ -22,10 +23,11 @@ class PanelRegistry : public QObject
 {
     Q_OBJECT
 public:
-    enum Kind { ViewerKind, PicturesKind, NotesKind, FilesKind, InspectorKind, ControlsKind, ColourKind };
+    enum Kind { ViewerKind, PicturesKind, NotesKind, FilesKind, InspectorKind, ControlsKind, ColourKind, ScriptKind };
 
-    /// \a pictures is shown by all panels with pictures and not owned.
-    explicit PanelRegistry(PictureList* pictures, QObject* parent = nullptr);
+    /// \a pictures is shown by all panels with pictures, \a scripts runs what is typed in panels for scripts;
+    /// they are not owned.
+    PanelRegistry(PictureList* pictures, ScriptInterpreter* scripts, QObject* parent = nullptr);
     ~PanelRegistry() override;
 
     /// The panel called \a id, made now if there is none; null if \a id is not the id of a panel of ours.
@@ -59,6 +61,7 @@ private:
     QWidget* create(Kind kind, int number);
 
     PictureList* m_pictures;
+    ScriptInterpreter* m_scripts;
     /// By kind and number. Entries of panels that were deleted are null.
     QMap<int, QMap<int, QPointer<QWidget>>> m_panels;
 };

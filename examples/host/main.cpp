@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "HostWindow.h"
 #include "Palettes.h"
+#include "ScriptInterpreter.h"
 
 #include <ui/toolkit/Application.h>
 #include <ui/widgets/AppSettings.h>
@@ -11,6 +12,7 @@
 #include <QTextStream>
 
 #include <cstdio>
+#include <cstdlib>
 
 using namespace Norvane;
 using namespace Norvane::Host;
@@ -64,5 +66,8 @@ int main(int argc, char** argv)
 
     HostWindow* const window = new HostWindow;
     window->start(commandLine);
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    if (ScriptInterpreter::hasThreadsLeft())
+        std::_Exit(status);
+    return status;
 }

@@ -4,6 +4,7 @@
 #include <examples/host/PanelRegistry.h>
 #include <examples/host/PictureList.h>
 #include <examples/host/PictureView.h>
+#include <examples/host/ScriptInterpreter.h>
 #include <examples/host/ViewerPanel.h>
 #include <examples/host/ViewerState.h>
 
@@ -232,7 +233,8 @@ void tst_HostPanels::idsNamePanels()
     QFETCH(QString, id);
     QFETCH(bool, isId);
     PictureList pictures;
-    PanelRegistry registry(&pictures);
+    ScriptInterpreter scripts(&pictures);
+    PanelRegistry registry(&pictures, &scripts);
     QCOMPARE(registry.find(id), static_cast<QWidget*>(nullptr));
     QWidget* const panel = registry.panel(id);
     QCOMPARE(panel != nullptr, isId);
@@ -244,7 +246,8 @@ void tst_HostPanels::idsNamePanels()
 void tst_HostPanels::freeNumbersAreUsedAgain()
 {
     PictureList pictures;
-    PanelRegistry registry(&pictures);
+    ScriptInterpreter scripts(&pictures);
+    PanelRegistry registry(&pictures, &scripts);
     QPointer<QWidget> first = registry.createPanel(PanelRegistry::ViewerKind);
     registry.panel(QLatin1String("Viewer.3"));
     QCOMPARE(registry.createPanel(PanelRegistry::ViewerKind)->objectName(), QString::fromLatin1("Viewer.2"));
@@ -256,7 +259,8 @@ void tst_HostPanels::freeNumbersAreUsedAgain()
 void tst_HostPanels::closedNotesWithTextStay()
 {
     PictureList pictures;
-    PanelRegistry registry(&pictures);
+    ScriptInterpreter scripts(&pictures);
+    PanelRegistry registry(&pictures, &scripts);
     registry.panel(QLatin1String("Viewer.1"));
     registry.panel(QLatin1String("Notes.1"));
     registry.panel(QLatin1String("Notes.2"))->setProperty("layoutState", QLatin1String("text"));

@@ -1,0 +1,156 @@
+#include <examples/host/PictureList.h>
+#include <examples/host/ScriptInterpreter.h>
+#include <examples/host/ScriptPanel.h>
+
+#include <ui/progress/ProgressManager.h>
+
+#include <tests/support/Waiting.h>
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QToolButton>
+
+#include <memory>
+
+using namespace Norvane::Host;
+
+class tst_ScriptPanel : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void promptAnswers_data();
+    void promptAnswers();
+    void examplesRun_data();
+    void examplesRun();
+    void stopInterruptsScript();
+    void threadsAreStopped();
+    void historyIsKept();
+
+private:
+    void type(const QString& line);
+    QString output() const { return panel->findChild<QPlainTextEdit*>()->toPlainText(); }
+
+    std::unique_ptr<PictureList> pictures;
+    std::unique_ptr<ScriptInterpreter> interpreter;
+    std::unique_ptr<ScriptPanel> panel;
+};
+
+void tst_ScriptPanel::init()
+{
+    // The first one stays the tasks' manager for ever.
+    static Norvane::UI::ProgressManager first;
+    pictures.reset(new PictureList);
+    pictures->addPicture(QString::fromUtf8("/pictures/L\xc3\xa9o.png"));
+    interpreter.reset(new ScriptInterpreter(pictures.get()));
+    panel.reset(new ScriptPanel(interpreter.get(), 1));
+    panel->show();
+}
+
+void tst_ScriptPanel::cleanup()
+{
+    panel.reset();
+    interpreter.reset();
+    pictures.reset();
+}
+
+void tst_ScriptPanel::type(const QString& line)
+{
+    QLineEdit* const input = panel->findChild<QLineEdit*>();
+    input->setText(line);
+    QTest::keyClick(input, Qt::Key_Return);
+}
+
+void tst_ScriptPanel::promptAnswers_data()
+{
+    QTest::addColumn<QStringList>("lines");
+    QTest::addColumn<QString>("answer");
+    QTest::newRow("value") << QStringList("6 * 7") << ">>> 6 * 7\n42\n";
+    QTest::newRow("names") << (QStringList() << "a = 6" << "a * 7") << ">>> a * 7\n42\n";
+    QTest::newRow("lines") << (QStringList() << "for i in range(2):" << "    print(i)" << "") << "... \n0\n1\n";
+    QTest::newRow("exception") << QStringList("{}['x']") << "KeyError: 'x'";
+    QTest::newRow("syntax") << QStringList("1 +") << "SyntaxError: ";
+    QTest::newRow("exit") << QStringList("raise SystemExit") << "A script cannot end the program.";
+    QTest::newRow("pictures") << (QStringList() << "import norvane" << "print(norvane.pictures()[0])")
+                              << QString::fromUtf8("/pictures/L\xc3\xa9o.png\n");
+    QTest::newRow("error stream") << (QStringList() << "import sys" << "_ = sys.stderr.write('wrong\\n')") << "wrong\n";
+}
+
+void tst_ScriptPanel::promptAnswers()
+{
+    QFETCH(QStringList, lines);
+    QFETCH(QString, answer);
+    for (const QString& line : lines)
+        type(line);
+    QVERIFY2(output().contains(answer), qPrintable(output()));
+}
+
+void tst_ScriptPanel::examplesRun_data()
+{
+    QTest::addColumn<int>("example");
+    QTest::addColumn<QStringList>("answers");
+    QTest::newRow("task") << 0 << QStringList("counted to 50");
+    QTest::newRow("pictures") << 1 << QStringList("1 pictures, 0 bytes in files");
+    QTest::newRow("exception") << 2
+                               << (QStringList() << "handled: list index out of range" << "in first_picture"
+                                                 << "IndexError: list index out of range");
+}
+
+void tst_ScriptPanel::examplesRun()
+{
+    QFETCH(int, example);
+    QFETCH(QStringList, answers);
+    panel->findChild<QMenu*>()->actions().at(example)->trigger();
+    for (const QString& answer : answers)
+        WAIT_FOR(output().contains(answer));
+}
+
+// From an event of the script's own, as a click is.
+void tst_ScriptPanel::stopInterruptsScript()
+{
+    QToolButton* stop = nullptr;
+    for (QToolButton* const button : panel->findChildren<QToolButton*>()) {
+        if (button->text() == QLatin1String("Stop"))
+            stop = button;
+    }
+    QVERIFY(stop && !stop->isEnabled());
+    QTimer::singleShot(0, stop, SLOT(click()));
+    interpreter->run("import norvane\ntask = norvane.ProgressTask('x')\nwhile True: task.setProgress(1)\n", "loop.py");
+    QVERIFY2(output().contains(QLatin1String("KeyboardInterrupt")), qPrintable(output()));
+    QVERIFY(!interpreter->isRunning() && !stop->isEnabled());
+}
+
+void tst_ScriptPanel::threadsAreStopped()
+{
+    interpreter->run("import threading, time, norvane\n"
+                     "def work():\n"
+                     "    while True:\n"
+                     "        norvane.run_in_main_thread_with_result(len, 'x')\n"
+                     "for i in range(3): threading.Thread(target=work).start()\n",
+                     "threads.py");
+    interpreter->finish();
+    QVERIFY(!ScriptInterpreter::hasThreadsLeft());
+}
+
+void tst_ScriptPanel::historyIsKept()
+{
+    type("1");
+    type("2");
+    type("2");
+    QCOMPARE(panel->layoutState(), QString::fromLatin1("1\n2"));
+    panel->setLayoutState("3\n4");
+    QLineEdit* const input = panel->findChild<QLineEdit*>();
+    const Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down};
+    QStringList recalled;
+    for (const Qt::Key key : keys) {
+        QTest::keyClick(input, key);
+        recalled.append(input->text());
+    }
+    QCOMPARE(recalled, QStringList() << "4" << "3" << "3" << "4" << "");
+}
+
+QTEST_MAIN(tst_ScriptPanel)
+#include "tst_ScriptPanel.moc"
