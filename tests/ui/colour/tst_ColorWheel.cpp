@@ -246,17 +246,17 @@ void tst_ColorWheel::dragRepaintsWhatMoved()
     QFETCH(int, modifiers);
     QFETCH(bool, partly);
     Wheel wheel(mode);
+    // Without a desktop, which may ask for repaints of its own, or for none as long as the window is covered.
+    wheel.setAttribute(Qt::WA_DontShowOnScreen);
     wheel.show();
-    WAIT_FOR(wheel.painted == QRegion(wheel.rect()));
     wheel.setHSV(0.4f, 0.3f, 0.55f);
     Hand hand(&wheel, press, Qt::KeyboardModifiers(modifiers));
     QApplication::processEvents();
-    bool wasPartly = false;
     for (int step = 0; step < 6; ++step) {
         const QImage before = wheel.picture();
         wheel.painted = QRegion();
         hand.moveBy(9, step % 2 ? 12 : -7);
-        WAIT_FOR(!wheel.painted.isEmpty());
+        QApplication::processEvents();
         const QRegion painted = wheel.painted;
         const QImage after = wheel.picture();
         for (int y = 0; y < after.height(); ++y) {
@@ -265,10 +265,9 @@ void tst_ColorWheel::dragRepaintsWhatMoved()
                     QFAIL(qPrintable(QString::fromLatin1("step %1 forgot (%2, %3)").arg(step).arg(x).arg(y)));
             }
         }
-        // The window system may ask for everything as well.
-        wasPartly |= painted != QRegion(wheel.rect());
+        QVERIFY(!painted.isEmpty());
+        QCOMPARE(painted != QRegion(wheel.rect()), partly);
     }
-    QCOMPARE(wasPartly, partly);
 }
 
 void tst_ColorWheel::anySizeAndColorIsPainted()
