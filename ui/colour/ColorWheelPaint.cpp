@@ -35,12 +35,13 @@ void ColorWheel::paintEvent(QPaintEvent* event)
         return;
     QPainter painter(this);
     d->updateBase();
+    // Below the colours: some styles tint what has focus.
+    if (d->showsFocus && hasFocus())
+        d->paintFocus(painter);
     if (d->displayMode == kInnerSquare)
         d->paintWithSquare(painter, event->rect());
     else
         painter.drawPixmap(0, 0, d->basePixmap);
-    if (d->showsFocus && hasFocus())
-        d->paintFocus(painter);
     useWheelCoordinates(painter, size());
     // Most repaints need only one of the marks.
     if (event->region().intersects(d->placeOf(d->triangle().boundingRect())))
