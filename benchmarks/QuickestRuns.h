@@ -28,8 +28,8 @@ private:
     bool m_hasFailures = false;
 };
 
-/// Runs what is registered, by turns, so that what disturbs the machine for a while disturbs all alike. Returns
-/// what main() does.
+/// Runs what is registered, by turns, so that what disturbs the machine for a while disturbs all alike.
+/// Returns what main() does.
 int runByTurns(int argc, char** argv, QuickestRuns* summary);
 
 }} // namespace Norvane::Benchmarks

@@ -52,7 +52,8 @@ void RowSummary::Finalize()
     for (const auto& run : costs()) {
         const std::string& name = run.first;
         const std::size_t first = name.find('/'), last = name.rfind('/');
-        times[name.substr(0, first)][name.substr(first + 1, last - first - 1)][name.substr(last + 1)] = run.second;
+        times[name.substr(0, first)][name.substr(first + 1, last - first - 1)][name.substr(last + 1)] =
+            run.second;
     }
     for (const auto& task : times) {
         for (const auto& size : task.second)

@@ -4,8 +4,8 @@
 
 namespace Norvane { namespace Benchmarks {
 
-/// Prints at the end one table: nanoseconds per pixel and their ratios, beside what is aimed at. Runs are named
-/// "decode CbYCrY8/row/core" and count their pixels.
+/// Prints at the end one table: nanoseconds per pixel and their ratios, beside what is aimed at. Runs are
+/// named "decode CbYCrY8/row/core" and count their pixels.
 class RowSummary : public QuickestRuns
 {
 public:

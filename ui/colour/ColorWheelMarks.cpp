@@ -67,7 +67,8 @@ QRegion ColorWheel::Private::changedRegion(const Shown& other) const
 {
     if (isShadedOtherwise(other))
         return wheel->rect();
-    return displayMode == kInnerSquare && shown.hue != other.hue ? placeOf(measures().innerSquare()) : QRect();
+    return displayMode == kInnerSquare && shown.hue != other.hue ? placeOf(measures().innerSquare())
+                                                                 : QRect();
 }
 
 QPointF ColorWheel::Private::hueMark() const

@@ -5,9 +5,9 @@
 #include <ui/toolkit/Painting.h>
 
 #include <QConicalGradient>
-#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPaintEvent>
 #include <QStyleOption>
 
 #include <algorithm>

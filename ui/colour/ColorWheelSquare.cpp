@@ -1,5 +1,6 @@
-// The square of saturation (from left to right) and value (from bottom to top) inside a wheel: the pure colour of
-// its hue, below a veil that is the same for every hue. A drag of the hue is painted by the toolkit's fastest loops.
+// The square of saturation (from left to right) and value (from bottom to top) inside a wheel: the pure
+// colour of its hue, below a veil that is the same for every hue. A drag of the hue is painted by the
+// toolkit's fastest loops.
 
 #include <ui/colour/ColorWheelPrivate.h>
 

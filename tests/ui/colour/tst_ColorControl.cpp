@@ -115,12 +115,12 @@ void tst_ColorControl::editKeepsOtherCoordinates_data()
     QTest::addColumn<int>("component");
     QTest::addColumn<QList<int>>("kept");
     QTest::newRow("valueChanged") << int(kValue) << (QList<int>() << kAlpha << kHue << kSaturation);
-    QTest::newRow("intensityChanged") << int(kIntensity)
-                                      << (QList<int>() << kAlpha << kTemperature << kMagentaGreen);
-    QTest::newRow("temperatureChanged") << int(kTemperature)
-                                        << (QList<int>() << kAlpha << kMagentaGreen << kIntensity);
-    QTest::newRow("magentaGreenChanged") << int(kMagentaGreen)
-                                         << (QList<int>() << kAlpha << kTemperature << kIntensity);
+    QTest::newRow("intensityChanged")
+        << int(kIntensity) << (QList<int>() << kAlpha << kTemperature << kMagentaGreen);
+    QTest::newRow("temperatureChanged")
+        << int(kTemperature) << (QList<int>() << kAlpha << kMagentaGreen << kIntensity);
+    QTest::newRow("magentaGreenChanged")
+        << int(kMagentaGreen) << (QList<int>() << kAlpha << kTemperature << kIntensity);
 }
 
 void tst_ColorControl::editKeepsOtherCoordinates()
