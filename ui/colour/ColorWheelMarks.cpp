@@ -14,7 +14,7 @@ const double kTurn = 2.0 * 3.14159265358979323846;
 /// Around a mark: half of a pen, and what antialiasing adds.
 const int kMargin = 2;
 /// Of a line, in pixels. Many small rectangles take longer to paint than a few that are larger.
-const double kPiece = 64.0;
+const double kPiece = 100.0;
 /// From here on, a colour is bright enough for black lines.
 const float kBright = 0.6f;
 /// Below this, a colour is nearly black.
