@@ -90,7 +90,18 @@ QRect boundsOf(const QImage& image, const QColor& color)
     return bounds;
 }
 
-/// How many pixels of the row or column \a at have \a color.
+bool isBlank(const QImage& image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != QColor(Qt::white).rgb())
+                return false;
+        }
+    }
+    return true;
+}
+
+/// Where \a row has \a color.
 QList<int> offsetsOf(const QImage& image, int row, const QColor& color)
 {
     QList<int> offsets;
@@ -186,25 +197,28 @@ void tst_SliderPaint::numbersNeverTouch()
     font.setPointSize(6);
     const QFontMetrics metrics(font);
     for (int length = 30; length < 400; length += 7) {
-        TestSlider slider(Slider::RealValue, Slider::SliderMode(mode), Qt::Horizontal, length);
-        slider.setRange(minimum, maximum);
-        slider.hasThumb = false;
-        slider.hasTicks = false;
-        const QImage image = slider.image();
-        int blank = 0;
-        int widest = 0;
-        int run = 0;
-        for (int x = 0; x < length; ++x) {
-            bool isBlank = true;
-            for (int y = 12; y < 20; ++y)
-                isBlank = isBlank && image.pixel(x, y) == QColor(Qt::white).rgb();
-            blank = isBlank ? blank + 1 : 0;
-            run = blank < 3 ? run + 1 : 0;
-            widest = qMax(widest, run);
+        for (const bool isVertical : {false, true}) {
+            TestSlider slider(Slider::RealValue, Slider::SliderMode(mode),
+                              isVertical ? Qt::Vertical : Qt::Horizontal, length);
+            slider.setRange(minimum, maximum);
+            slider.hasThumb = false;
+            slider.hasTicks = false;
+            const QImage image = slider.image();
+            // No run of ink is longer than a number: numbers that touch would be. Digits stand close in a
+            // row.
+            const int gap = isVertical ? 1 : 3;
+            const int most =
+                isVertical ? metrics.ascent() : metrics.boundingRect(QLatin1String("-12345.6")).width() + 6;
+            int blank = 0;
+            int run = 0;
+            for (int i = 0; i < length; ++i) {
+                const QImage across = isVertical ? image.copy(0, i, 17, 1) : image.copy(i, 12, 1, 8);
+                blank = isBlank(across) ? blank + 1 : 0;
+                run = blank < gap ? run + 1 : 0;
+                QVERIFY2(run <= most,
+                         qPrintable(QString::fromLatin1("%1 pixels: ink over %2").arg(length).arg(run)));
+            }
         }
-        // No run of ink is longer than the longest number: numbers that touch would be.
-        QVERIFY2(widest <= metrics.boundingRect(QLatin1String("-12345.6")).width() + 6,
-                 qPrintable(QString::fromLatin1("%1 pixels: ink over %2").arg(length).arg(widest)));
     }
 }
 
