@@ -13,6 +13,7 @@ class tst_SliderPaint : public QObject
 private Q_SLOTS:
     void thumbStandsAtValue_data();
     void thumbStandsAtValue();
+    void thumbPointsOutOfRange();
     void trackIsFilled();
     void ticksAreWhereTheyBelong();
     void numbersNeverTouch_data();
@@ -135,6 +136,28 @@ void tst_SliderPaint::thumbStandsAtValue()
     TestSlider slider(Slider::RealValue, Slider::LinearMode, isVertical ? Qt::Vertical : Qt::Horizontal, 105);
     slider.setValue(value);
     QCOMPARE(boundsOf(slider.image(), kThumb), bounds);
+}
+
+void tst_SliderPaint::thumbPointsOutOfRange()
+{
+    for (const bool isVertical : {false, true}) {
+        for (const bool isBelow : {false, true}) {
+            TestSlider slider(Slider::RealValue, Slider::LinearMode,
+                              isVertical ? Qt::Vertical : Qt::Horizontal, 105);
+            slider.setValue(isBelow ? -3 : 3);
+            QImage image = slider.image();
+            if (isVertical)
+                image = image.transformed(QTransform().rotate(90));
+            // The edges are antialiased; what is inside of them is longer than the thumb and grows from the
+            // tip.
+            const QRect bounds = boundsOf(image, kThumb);
+            const int left = boundsOf(image.copy(bounds.left(), 0, 1, image.height()), kThumb).height();
+            const int right = boundsOf(image.copy(bounds.right(), 0, 1, image.height()), kThumb).height();
+            QVERIFY(bounds.width() > 6);
+            QVERIFY(isBelow ? bounds.left() < 6 : bounds.right() > 98);
+            QVERIFY(isBelow ? left < right : left > right);
+        }
+    }
 }
 
 void tst_SliderPaint::trackIsFilled()
