@@ -1,6 +1,5 @@
 #include <benchmarks/ControlSummary.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <ostream>
 
@@ -13,33 +12,13 @@ ControlSummary::ControlSummary(const std::vector<ControlCase>& cases)
 {
 }
 
-bool ControlSummary::ReportContext(const Context& context)
-{
-    PrintBasicContext(&GetErrorStream(), context);
-    return true;
-}
-
-void ControlSummary::ReportRuns(const std::vector<Run>& runs)
-{
-    for (const Run& run : runs) {
-        if (run.error_occurred) {
-            GetErrorStream() << run.benchmark_name() << ": " << run.error_message << '\n';
-            m_hasFailures = true;
-        } else if (run.run_type == Run::RT_Iteration) {
-            const double time = run.GetAdjustedCPUTime();
-            double& best = m_times.emplace(run.run_name.function_name, time).first->second;
-            best = std::min(best, time);
-        }
-    }
-}
-
 void ControlSummary::Finalize()
 {
     GetOutputStream() << "\nProcessor time of one step, and how many times as long others take. In brackets "
                          "what is aimed at.\n\n";
     for (const ControlCase& control : m_cases) {
-        const auto time = m_times.find(control.task + '/' + control.contestant);
-        if (time != m_times.end())
+        const auto time = costs().find(control.task + '/' + control.contestant);
+        if (time != costs().end())
             print(control, time->second);
     }
 }
@@ -47,8 +26,8 @@ void ControlSummary::Finalize()
 void ControlSummary::print(const ControlCase& control, double milliseconds)
 {
     const bool isOurs = control.contestant == "core";
-    const auto ours = m_times.find(control.task + "/core");
-    const double ratio = ours == m_times.end() ? 0 : milliseconds / ours->second;
+    const auto ours = costs().find(control.task + "/core");
+    const double ratio = ours == costs().end() ? 0 : milliseconds / ours->second;
     const bool reached = isOurs ? milliseconds <= control.aim : ratio >= control.aim;
     char line[160];
     std::snprintf(line, sizeof line, "%-38s %-26s %9.4f ms %7.2f x", control.task.c_str(),

@@ -1,34 +1,22 @@
 #pragma once
 
 #include <benchmarks/ControlCase.h>
-
-#include <benchmark/benchmark.h>
-
-#include <map>
-#include <string>
-#include <vector>
+#include <benchmarks/QuickestRuns.h>
 
 namespace Norvane { namespace Benchmarks {
 
-/// Prints nothing but what failed while benchmarks run, and at the end one table: the processor time of a
-/// step and how much longer others take, beside what is aimed at. Runs are named "task/contestant"; the
-/// quickest of repeated ones counts.
-class ControlSummary : public benchmark::BenchmarkReporter
+/// Prints at the end one table: the processor time of a step in milliseconds and how much longer others take,
+/// beside what is aimed at. Runs are named "task/contestant".
+class ControlSummary : public QuickestRuns
 {
 public:
     explicit ControlSummary(const std::vector<ControlCase>& cases);
-    bool ReportContext(const Context& context) override;
-    void ReportRuns(const std::vector<Run>& runs) override;
     void Finalize() override;
-
-    bool hasFailures() const { return m_hasFailures; }
 
 private:
     void print(const ControlCase& control, double milliseconds);
 
     const std::vector<ControlCase>& m_cases;
-    std::map<std::string, double> m_times; ///< milliseconds by name
-    bool m_hasFailures = false;
 };
 
 }} // namespace Norvane::Benchmarks

@@ -1,6 +1,5 @@
 #include <benchmarks/RowSummary.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <ostream>
 
@@ -39,29 +38,9 @@ std::string verdict(const char* sign, double aim, bool reached)
 
 } // namespace
 
-bool RowSummary::ReportContext(const Context& context)
+double RowSummary::cost(const Run& run) const
 {
-    PrintBasicContext(&GetErrorStream(), context);
-    return true;
-}
-
-void RowSummary::ReportRuns(const std::vector<Run>& runs)
-{
-    for (const Run& run : runs) {
-        if (run.error_occurred) {
-            GetErrorStream() << run.benchmark_name() << ": " << run.error_message << '\n';
-            m_hasFailures = true;
-        }
-        if (run.error_occurred || run.run_type != Run::RT_Iteration)
-            continue;
-        const std::string name = run.run_name.function_name;
-        const std::size_t first = name.find('/'), last = name.rfind('/');
-        const double pixels = static_cast<double>(run.counters.at("pixels"));
-        const double time = run.GetAdjustedCPUTime() / pixels;
-        Contestants& times = m_times[name.substr(0, first)][name.substr(first + 1, last - first - 1)];
-        double& best = times.emplace(name.substr(last + 1), time).first->second;
-        best = std::min(best, time);
-    }
+    return QuickestRuns::cost(run) / static_cast<double>(run.counters.at("pixels"));
 }
 
 void RowSummary::Finalize()
@@ -69,7 +48,14 @@ void RowSummary::Finalize()
     GetOutputStream()
         << "\nProcessor time per pixel, to that of storing (decode) or loading (encode) the same floats,"
            "\nand how much longer others take. In brackets what is aimed at.\n\n";
-    for (const auto& task : m_times) {
+    std::map<std::string, std::map<std::string, Contestants>> times; // by task, size and contestant
+    for (const auto& run : costs()) {
+        const std::string& name = run.first;
+        const std::size_t first = name.find('/'), last = name.rfind('/');
+        times[name.substr(0, first)][name.substr(first + 1, last - first - 1)][name.substr(last + 1)] =
+            run.second;
+    }
+    for (const auto& task : times) {
         for (const auto& size : task.second)
             printTask(task.first, size.first, size.second);
     }

@@ -106,18 +106,9 @@ void registerAll()
 
 int run(int argc, char** argv)
 {
-    // Taking turns, so that what disturbs the machine for a while disturbs all alike.
-    std::string turns = "--benchmark_enable_random_interleaving=true";
-    std::vector<char*> arguments(argv, argv + argc);
-    arguments.insert(arguments.begin() + 1, &turns[0]);
-    int count = static_cast<int>(arguments.size());
-    benchmark::Initialize(&count, arguments.data());
-    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
-        return 1;
     registerAll();
     RowSummary summary;
-    benchmark::RunSpecifiedBenchmarks(&summary);
-    return summary.hasFailures() ? 1 : 0;
+    return runByTurns(argc, argv, &summary);
 }
 
 }} // namespace Norvane::Benchmarks

@@ -93,7 +93,7 @@ void ColourPanel::addStanding(QBoxLayout* row, ColorSlider* slider, const QStrin
     QLabel* const label = new QLabel(letter, this);
     label->setToolTip(slider->toolTip());
     QVBoxLayout* const column = new QVBoxLayout;
-    column->addWidget(slider, 1);
+    column->addWidget(slider, 1, Qt::AlignHCenter);
     column->addWidget(label, 0, Qt::AlignHCenter);
     row->addLayout(column);
 }

@@ -2,19 +2,13 @@
 //
 //   draw_colour_controls FOLDER     writes FOLDER/colour-wheels-light.png, -dark.png and the same of sliders
 
-#include <examples/host/Palettes.h>
+#include <scripts/pictures/Sheets.h>
 #include <ui/colour/ColorControl.h>
 #include <ui/colour/ColorSlider.h>
 #include <ui/colour/ColorWheel.h>
-#include <ui/toolkit/Application.h>
-#include <ui/toolkit/Painting.h>
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
-#include <QStyleFactory>
-
-#include <cstdio>
 
 using namespace Norvane;
 using UI::ColorControl;
@@ -53,9 +47,12 @@ QWidget* createWheels()
     return sheet;
 }
 
-/// All sliders that \a control makes: lying red, green, blue and alpha, standing the others.
-QWidget* createSliders(ColorControl* control)
+/// All sliders that a control makes: lying red, green, blue and alpha, standing the others.
+QWidget* createSliders()
 {
+    QWidget* const sheet = new QWidget;
+    ColorControl* const control = new ColorControl(nullptr);
+    control->setParent(sheet);
     control->setColorRange(0, 1);
     control->setColorRGBA(0.75f, 0.45f, 0.3f, 1);
     ColorSlider* const lying[] = {
@@ -64,7 +61,6 @@ QWidget* createSliders(ColorControl* control)
     ColorSlider* const standing[] = {
         control->createVerticalValueSlider(), control->createVerticalTemperatureSlider(),
         control->createVerticalMagentaGreenSlider(), control->createVerticalIntensitySlider()};
-    QWidget* const sheet = new QWidget;
     QGridLayout* const grid = new QGridLayout(sheet);
     for (int i = 0; i < 4; ++i) {
         lying[i]->setFixedSize(320, 24);
@@ -77,33 +73,10 @@ QWidget* createSliders(ColorControl* control)
     return sheet;
 }
 
-bool save(QWidget* sheet, const QString& path)
-{
-    const QScopedPointer<QWidget> owner(sheet);
-    const bool saved = UI::grabPixmap(sheet).toImage().save(path, "PNG", 0);
-    std::fprintf(saved ? stdout : stderr, saved ? "%s\n" : "cannot write %s\n", qPrintable(path));
-    return saved;
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    UI::enableHighDensity();
-    QApplication application(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: draw_colour_controls FOLDER\n");
-        return 2;
-    }
-    QApplication::setStyle(QLatin1String("Fusion"));
-    const QString path = QString::fromLocal8Bit(argv[1]) + QLatin1String("/colour-%1-%2.png");
-    bool saved = true;
-    for (int isDark = 0; isDark < 2; ++isDark) {
-        Host::Palettes::apply(isDark);
-        const QString palette = QLatin1String(isDark ? "dark" : "light");
-        ColorControl control(nullptr);
-        saved &= save(createWheels(), path.arg(QLatin1String("wheels"), palette));
-        saved &= save(createSliders(&control), path.arg(QLatin1String("sliders"), palette));
-    }
-    return saved ? 0 : 1;
+    return Pictures::drawSheets(argc, argv,
+                                {{"colour-wheels", createWheels}, {"colour-sliders", createSliders}});
 }

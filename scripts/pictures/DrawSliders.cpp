@@ -2,18 +2,12 @@
 //
 //   draw_sliders FOLDER     writes FOLDER/sliders-light.png and FOLDER/sliders-dark.png
 
-#include <examples/host/Palettes.h>
+#include <scripts/pictures/Sheets.h>
 #include <ui/sliders/LogSlider.h>
 #include <ui/sliders/Slider.h>
-#include <ui/toolkit/Application.h>
-#include <ui/toolkit/Painting.h>
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
-#include <QStyleFactory>
-
-#include <cstdio>
 
 using namespace Norvane;
 using UI::Slider;
@@ -93,28 +87,9 @@ QWidget* createSheet()
     return sheet;
 }
 
-bool drawSheet(const QString& path, bool isDark)
-{
-    Host::Palettes::apply(isDark);
-    const QScopedPointer<QWidget> sheet(createSheet());
-    const bool saved = UI::grabPixmap(sheet.data()).toImage().save(path, "PNG", 0);
-    std::fprintf(saved ? stdout : stderr, saved ? "%s\n" : "cannot write %s\n", qPrintable(path));
-    return saved;
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    UI::enableHighDensity();
-    QApplication application(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: draw_sliders FOLDER\n");
-        return 2;
-    }
-    QApplication::setStyle(QLatin1String("Fusion"));
-    const QString folder = QString::fromLocal8Bit(argv[1]);
-    const bool light = drawSheet(folder + QLatin1String("/sliders-light.png"), false);
-    const bool dark = drawSheet(folder + QLatin1String("/sliders-dark.png"), true);
-    return light && dark ? 0 : 1;
+    return Pictures::drawSheets(argc, argv, {{"sliders", createSheet}});
 }

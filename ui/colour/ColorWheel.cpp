@@ -58,9 +58,9 @@ void ColorWheel::display(const Shown& next)
     const Shown now = d->shown;
     if (next == now)
         return;
-    const QRegion before = d->markRegion();
+    const QVector<Private::Mark> before = d->marks();
     d->shown = next;
-    update(before | d->markRegion() | d->changedRegion(now));
+    update(d->changedMarks(before) | d->changedRegion(now));
     reportAccessibleValue(this, double(getClampedHue()));
 }
 

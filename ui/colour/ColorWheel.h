@@ -23,7 +23,7 @@ namespace UI {
 /// Dragging moves the marker; with Shift it changes only the saturation, with Control only the hue, with both
 /// or the right button only the value. Where zooming is enabled, the mouse wheel zooms around the mouse, Alt
 /// pans, the middle button zooms into a box (a click resets), and both together zoom. The arrow keys change
-/// hue and saturation, Page Up and Page Down the value.
+/// hue and saturation, Page Up and Page Down the value; focus that came by the keyboard is framed.
 ///
 /// Only the user's edits are signalled. To assistive technology the wheel is a slider of its hue that reads
 /// out the whole colour.
@@ -122,6 +122,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     struct Private;

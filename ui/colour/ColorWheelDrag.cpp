@@ -132,9 +132,9 @@ void ColorWheel::drag(QMouseEvent* event)
 {
     const QPointF point = dragPoint(event);
     if (d->drag.has(kBoxZoomDrag)) {
-        const QRegion before = d->markRegion();
+        const QVector<Private::Mark> before = d->marks();
         d->drag.current = point;
-        update(before | d->markRegion());
+        update(d->changedMarks(before));
     }
     if (d->drag.has(kPanDrag))
         setPan(d->pan + (point - d->drag.anchor) / d->measures().innerRadius);

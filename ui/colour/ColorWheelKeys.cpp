@@ -50,6 +50,28 @@ void ColorWheel::keyPressEvent(QKeyEvent* event)
     editAtOnce(color);
 }
 
+void ColorWheel::focusInEvent(QFocusEvent* event)
+{
+    switch (event->reason()) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+        d->showsFocus = true;
+        break;
+    default:
+        break;
+    }
+    QWidget::focusInEvent(event);
+}
+
+void ColorWheel::focusOutEvent(QFocusEvent* event)
+{
+    // With a window or a menu, focus comes back as it was.
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+        d->showsFocus = false;
+    QWidget::focusOutEvent(event);
+}
+
 void ColorWheel::editAtOnce(const Shown& color)
 {
     if (color == d->shown)

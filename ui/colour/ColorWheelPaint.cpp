@@ -1,13 +1,14 @@
-// How a wheel looks. All functions but updateBase() paint in wheel coordinates.
+// How a wheel looks. All but updateBase() and paintFocus() paint in wheel coordinates.
 
 #include <ui/colour/ColorWheelPrivate.h>
 
-#include <colour/ColorModels.h>
 #include <ui/toolkit/Painting.h>
 
 #include <QConicalGradient>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPaintEvent>
+#include <QStyleOption>
 
 #include <algorithm>
 #include <cmath>
@@ -16,23 +17,6 @@ namespace Norvane { namespace UI {
 
 namespace {
 
-/// From here on, a colour is bright enough for black lines.
-const float kBright = 0.6f;
-/// Below this, a colour is nearly black.
-const float kDark = 0.1f;
-
-struct MarkColors {
-    QColor normal;
-    QColor dark;
-    QColor warning;
-};
-
-const MarkColors& markColors()
-{
-    static const MarkColors colors = {Qt::white, QColor(102, 178, 255), QColor(255, 51, 51)};
-    return colors;
-}
-
 void useWheelCoordinates(QPainter& painter, const QSize& size)
 {
     painter.translate(0, size.height());
@@ -40,36 +24,9 @@ void useWheelCoordinates(QPainter& painter, const QSize& size)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
 }
 
-/// Fills \a image with the part at \a corner of a square of \a side pixels: saturation from left to right,
-/// value from bottom to top.
-void fillSquare(QImage& image, float hue, int side, const QPoint& corner)
-{
-    // Saturation leads from white to the pure hue, and value from black to that, both in a straight line.
-    float pure[3];
-    Colour::hsvToRgb(hue, 1.0f, 1.0f, &pure[0], &pure[1], &pure[2]);
-    const int left = corner.x();
-    const int right = left + image.width();
-    for (int y = 0; y < image.height(); ++y) {
-        QRgb* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        const float white = 255.0f * (side - 1 - corner.y() - y) / side;
-        const float red = white * (pure[0] - 1.0f) / side;
-        const float green = white * (pure[1] - 1.0f) / side;
-        const float blue = white * (pure[2] - 1.0f) / side;
-        for (int x = left; x < right; ++x)
-            *line++ = qRgb(int(white + red * x), int(white + green * x), int(white + blue * x));
-    }
-}
-
-void paintTriangle(QPainter& painter, const QPolygonF& triangle, const QColor& color)
-{
-    painter.setPen(Qt::black);
-    painter.setBrush(color);
-    painter.drawPolygon(triangle);
-}
-
 } // namespace
 
-void ColorWheel::paintEvent(QPaintEvent*)
+void ColorWheel::paintEvent(QPaintEvent* event)
 {
     if (!_texture_ready)
         buildTexture();
@@ -78,21 +35,24 @@ void ColorWheel::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     d->updateBase();
-    painter.drawPixmap(0, 0, d->basePixmap);
-    useWheelCoordinates(painter, size());
-    const bool isTooSaturated = d->shown.saturation > 1.0f;
-    if (d->displayMode == kValueRing)
-        paintTriangle(painter, d->ringTriangle(), markColors().normal);
+    // Below the colours: some styles tint what has focus.
+    if (d->showsFocus && hasFocus())
+        d->paintFocus(painter);
+    if (d->displayMode == kInnerSquare)
+        d->paintWithSquare(painter, event->rect());
     else
-        paintTriangle(painter, d->hueTriangle(), isTooSaturated ? markColors().warning : markColors().normal);
-    if (d->displayMode == kInnerSquare) {
-        d->paintMark(painter, d->squareMark());
-        return;
+        painter.drawPixmap(0, 0, d->basePixmap);
+    useWheelCoordinates(painter, size());
+    // Most repaints need only one of the marks.
+    if (event->region().intersects(d->placeOf(d->triangle().boundingRect())))
+        d->paintTriangle(painter);
+    if (d->displayMode != kInnerSquare) {
+        d->paintCross(painter);
+        d->paintGuides(painter);
+        d->paintRubberBand(painter);
     }
-    d->paintCross(painter);
-    d->paintGuides(painter);
-    d->paintRubberBand(painter);
-    d->paintMark(painter, d->saturationMark());
+    if (event->region().intersects(d->placeOf(d->circle())))
+        d->paintCircle(painter);
 }
 
 bool ColorWheel::Private::DiscKey::operator==(const DiscKey& other) const
@@ -122,8 +82,8 @@ void ColorWheel::Private::updateBase()
         useWheelCoordinates(painter, wheel->size());
         drawShade(painter);
     }
-    if (hasOtherSquare(baseShown) || (isNew && displayMode == kInnerSquare))
-        drawSquare(density);
+    if (isNew && displayMode == kInnerSquare)
+        drawVeil();
     baseShown = shown;
 }
 
@@ -185,28 +145,27 @@ void ColorWheel::Private::drawShade(QPainter& painter) const
     painter.setOpacity(1.0);
 }
 
-void ColorWheel::Private::drawSquare(qreal density)
+void ColorWheel::Private::paintFocus(QPainter& painter) const
 {
-    // On whole pixels of the screen: an image that need not be scaled is painted much faster.
-    const QRectF target = measures().innerSquare();
-    const int side = qRound(target.width() * density);
-    const QPoint place(qRound(target.left() * density),
-                       qRound((wheel->height() - target.bottom()) * density));
-    const QRect whole(place, QSize(side, side));
-    const QRect part = whole & basePixmap.rect();
-    if (squareImage.size() != part.size())
-        squareImage = QImage(part.size(), QImage::Format_RGB32);
-    fillSquare(squareImage, shown.hue, side, part.topLeft() - place);
-    QPainter painter(&basePixmap);
-    painter.scale(1.0 / density, 1.0 / density);
-    painter.drawImage(part.topLeft(), squareImage);
+    QStyleOptionFocusRect option;
+    option.initFrom(wheel);
+    option.state |= QStyle::State_KeyboardFocusChange;
+    option.backgroundColor = wheel->palette().color(QPalette::Window);
+    wheel->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, wheel);
+}
+
+void ColorWheel::Private::paintTriangle(QPainter& painter) const
+{
+    painter.setPen(Qt::black);
+    painter.setBrush(triangleColor());
+    painter.drawPolygon(triangle());
 }
 
 void ColorWheel::Private::paintCross(QPainter& painter) const
 {
     const QPointF centre = measures().centre;
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(std::abs(shown.value) >= kBright ? Qt::black : Qt::white);
+    painter.setPen(crossColor());
     painter.drawLine(centre - QPointF(3, 0), centre + QPointF(3, 0));
     painter.drawLine(centre - QPointF(0, 3), centre + QPointF(0, 3));
     painter.setRenderHint(QPainter::Antialiasing);
@@ -214,8 +173,7 @@ void ColorWheel::Private::paintCross(QPainter& painter) const
 
 void ColorWheel::Private::paintGuides(QPainter& painter) const
 {
-    const QColor color = std::abs(shown.value) >= kBright ? QColor(Qt::black) : QColor(178, 178, 178);
-    painter.setPen(QPen(color, 1, Qt::DashLine));
+    painter.setPen(QPen(guideColor(), 1, Qt::DashLine));
     painter.setBrush(Qt::NoBrush);
     if (!guideLine().isNull())
         painter.drawLine(guideLine());
@@ -234,13 +192,11 @@ void ColorWheel::Private::paintRubberBand(QPainter& painter) const
     painter.setRenderHint(QPainter::Antialiasing);
 }
 
-void ColorWheel::Private::paintMark(QPainter& painter, const QPointF& middle) const
+void ColorWheel::Private::paintCircle(QPainter& painter) const
 {
-    const float brightness = std::abs(shown.value);
-    const MarkColors& colors = markColors();
     painter.setPen(Qt::black);
-    painter.setBrush(brightness < kDark ? colors.dark : brightness > 1.0f ? colors.warning : colors.normal);
-    painter.drawEllipse(circleMark(middle));
+    painter.setBrush(circleColor());
+    painter.drawEllipse(circle());
 }
 
 }} // namespace Norvane::UI

@@ -3,9 +3,11 @@
 #include <ui/colour/ColorWheel.h>
 #include <ui/colour/WheelGeometry.h>
 
+#include <QColor>
 #include <QImage>
 #include <QPixmap>
 #include <QRegion>
+#include <QVector>
 
 class QPainter;
 
@@ -48,6 +50,14 @@ struct ColorWheel::Private {
         bool operator==(const DiscKey& other) const;
     };
 
+    struct Mark {
+        QRectF shape;  ///< exactly: a part of a pixel is seen, too
+        QRegion place; ///< where it is painted, in the widget
+        QColor color;
+
+        bool operator==(const Mark& other) const { return shape == other.shape && color == other.color; }
+    };
+
     explicit Private(ColorWheel* owner)
         : wheel(owner)
     {
@@ -60,29 +70,41 @@ struct ColorWheel::Private {
     double angleOf(float hue) const;
     /// Whether the whole picture must be painted for what is shown in place of \a other.
     bool isShadedOtherwise(const Shown& other) const;
-    /// Whether the square of saturation and value must be painted anew.
-    bool hasOtherSquare(const Shown& other) const;
     /// Where the picture below the marks changes when \a other becomes what is shown, in the widget.
     QRegion changedRegion(const Shown& other) const;
     /// Middles of the marks, in wheel coordinates.
     QPointF hueMark() const;
     QPointF saturationMark() const;
     QPointF squareMark() const;
-    QPolygonF hueTriangle() const;
-    QPolygonF ringTriangle() const;
+    /// The marks that are painted.
+    QPolygonF triangle() const;
+    QRectF circle() const;
     /// Lines while hue or saturation are dragged; null if there are none.
     QLineF guideLine() const;
     QRectF guideCircle() const;
     QRectF rubberBand() const;
-    /// Where all these are painted, in the widget.
-    QRegion markRegion() const;
+    QColor triangleColor() const;
+    QColor circleColor() const;
+    QColor crossColor() const;
+    QColor guideColor() const;
+    /// Where a mark with these bounds is painted, in the widget.
+    QRect placeOf(const QRectF& mark) const;
+    QRegion placeOfLine(const QLineF& line) const;
+    QRegion placeOfCircle(const QRectF& circle) const;
+    QVector<Mark> marks() const;
+    /// Where marks are painted, or were \a before, that have changed.
+    QRegion changedMarks(const QVector<Mark>& before) const;
 
     /// Makes the picture without marks, as far as it is not what it has to be.
     void updateBase();
+    /// The base with the square in it, where it is \a dirty.
+    void paintWithSquare(QPainter& painter, const QRect& dirty) const;
+    void paintFocus(QPainter& painter) const;
+    void paintTriangle(QPainter& painter) const;
     void paintCross(QPainter& painter) const;
     void paintGuides(QPainter& painter) const;
     void paintRubberBand(QPainter& painter) const;
-    void paintMark(QPainter& painter, const QPointF& middle) const;
+    void paintCircle(QPainter& painter) const;
 
     ColorWheel* const wheel;
     Colour::TransformI* transform = nullptr;
@@ -96,20 +118,23 @@ struct ColorWheel::Private {
     float interactionScale = 0.1f;
     float hueRotation = 0.0f;
     Drag drag;
+    bool showsFocus = false;
     int wheelTurn = 0; ///< of the mouse wheel, less than a notch
 
     /// Kept from one repaint to the next: the disc of full value, and what is painted below the marks.
     QPixmap discPixmap;
     DiscKey discKey = DiscKey();
     QPixmap basePixmap;
-    Shown baseShown;    ///< what the base was made for
-    QImage squareImage; ///< as it lies in the base, kept for its memory
+    Shown baseShown; ///< what the base was made for
+    QImage veil;     ///< over the pure colour of the square, as far as the widget shows it
 
 private:
     void drawDisc(QPainter& painter) const;
     void drawRing(QPainter& painter) const;
     void drawShade(QPainter& painter) const;
-    void drawSquare(qreal density);
+    void drawVeil();
+    /// In pixels of the screen.
+    QRect squarePixels() const;
 };
 
 }} // namespace Norvane::UI

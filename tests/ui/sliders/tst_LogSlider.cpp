@@ -17,7 +17,6 @@ private Q_SLOTS:
     void valuesBecomePositions();
     void wrongUseThrows();
     void extremeRangesStayWithinIntegers();
-    void sizeHintsHaveRoomForLabels_data();
     void sizeHintsHaveRoomForLabels();
     void marksFollowTheGroove_data();
     void marksFollowTheGroove();
@@ -123,26 +122,19 @@ void tst_LogSlider::extremeRangesStayWithinIntegers()
     imageOf(slider);
 }
 
-void tst_LogSlider::sizeHintsHaveRoomForLabels_data()
-{
-    QTest::addColumn<int>("orientation");
-    QTest::addColumn<QSize>("room");
-    QTest::newRow("horizontal") << int(Qt::Horizontal) << QSize(0, 11);
-    QTest::newRow("vertical") << int(Qt::Vertical) << QSize(11, 0);
-}
-
 void tst_LogSlider::sizeHintsHaveRoomForLabels()
 {
-    QFETCH(int, orientation);
-    QFETCH(QSize, room);
-    const QSlider plain{Qt::Orientation(orientation)};
-    LogSlider slider{Qt::Orientation(orientation)};
-    slider.setTickTextSize(11);
-    QCOMPARE(slider.sizeHint(), plain.sizeHint() + room);
-    QCOMPARE(slider.minimumSizeHint(), plain.minimumSizeHint() + room);
-    slider.setDrawLogTicks(false);
-    QCOMPARE(slider.sizeHint(), plain.sizeHint());
-    QCOMPARE(slider.minimumSizeHint(), plain.minimumSizeHint());
+    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+        const QSize room = orientation == Qt::Horizontal ? QSize(0, 11) : QSize(11, 0);
+        const QSlider plain(orientation);
+        LogSlider slider(orientation);
+        slider.setTickTextSize(11);
+        QCOMPARE(slider.sizeHint(), plain.sizeHint() + room);
+        QCOMPARE(slider.minimumSizeHint(), plain.minimumSizeHint() + room);
+        slider.setDrawLogTicks(false);
+        QCOMPARE(slider.sizeHint(), plain.sizeHint());
+        QCOMPARE(slider.minimumSizeHint(), plain.minimumSizeHint());
+    }
 }
 
 void tst_LogSlider::marksFollowTheGroove_data()

@@ -12,10 +12,8 @@ class tst_Slider : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void defaults_data();
-    void defaults();
+    void startsAsItsTypeSays();
     void boundsAreSwappedAndValueStays();
-    void numbersThatAreNotFiniteAreIgnored_data();
     void numbersThatAreNotFiniteAreIgnored();
     void dragSnapsToRoundValues_data();
     void dragSnapsToRoundValues();
@@ -94,34 +92,20 @@ void drag(Slider* slider, int position)
 
 } // namespace
 
-void tst_Slider::defaults_data()
+void tst_Slider::startsAsItsTypeSays()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<double>("maximum");
-    QTest::addColumn<double>("step");
-    QTest::newRow("integer") << int(Slider::IntegerValue) << 0.0 << 100.0 << 1.0;
-    QTest::newRow("real") << int(Slider::RealValue) << 0.5 << 1.0 << 0.01;
-}
-
-void tst_Slider::defaults()
-{
-    QFETCH(int, type);
-    QFETCH(double, value);
-    QFETCH(double, maximum);
-    QFETCH(double, step);
-    const Slider slider(Slider::ValueType(type), Slider::LogMode, Qt::Vertical, nullptr);
-    QCOMPARE(int(slider.type()), type);
-    QCOMPARE(slider.orientation(), Qt::Vertical);
-    QCOMPARE(slider.value(), value);
-    QCOMPARE(slider.minimum(), 0.0);
-    QCOMPARE(slider.maximum(), maximum);
-    QCOMPARE(slider.rangeDelta(), maximum);
-    QCOMPARE(slider.step(), step);
-    QCOMPARE(slider.focusPolicy(), Qt::NoFocus);
-    QVERIFY(slider.autoFillBackground());
-    QCOMPARE(slider.minimumSize(), QSize(20, 30));
-    QCOMPARE(slider.sizeHint(), QSize(20, 30));
+    const Slider real(Slider::RealValue, Slider::LogMode, Qt::Vertical, nullptr);
+    QCOMPARE(real.value(), 0.5);
+    QCOMPARE(real.maximum(), 1.0);
+    QCOMPARE(real.step(), 0.01);
+    QCOMPARE(real.focusPolicy(), Qt::NoFocus);
+    QVERIFY(real.autoFillBackground());
+    QCOMPARE(real.minimumSize(), QSize(20, 30));
+    QCOMPARE(real.sizeHint(), QSize(20, 30));
+    const Slider integer(Slider::IntegerValue, Slider::LinearMode, Qt::Horizontal, nullptr);
+    QCOMPARE(integer.value(), 0.0);
+    QCOMPARE(integer.rangeDelta(), 100.0);
+    QCOMPARE(integer.step(), 1.0);
 }
 
 void tst_Slider::boundsAreSwappedAndValueStays()
@@ -139,23 +123,17 @@ void tst_Slider::boundsAreSwappedAndValueStays()
     QCOMPARE(slider.value(), 0.5);
 }
 
-void tst_Slider::numbersThatAreNotFiniteAreIgnored_data()
-{
-    QTest::addColumn<double>("number");
-    QTest::newRow("not a number") << std::nan("");
-    QTest::newRow("infinite") << std::numeric_limits<double>::infinity();
-    QTest::newRow("minus infinite") << -std::numeric_limits<double>::infinity();
-}
-
 void tst_Slider::numbersThatAreNotFiniteAreIgnored()
 {
-    QFETCH(double, number);
     Slider slider(Slider::RealValue, Slider::LinearMode, Qt::Horizontal, nullptr);
-    slider.setValue(number);
-    slider.setStep(number);
-    slider.setMinimum(number);
-    slider.setMaximum(number);
-    slider.setRange(number, number);
+    const double infinite = std::numeric_limits<double>::infinity();
+    for (const double number : {std::nan(""), infinite, -infinite}) {
+        slider.setValue(number);
+        slider.setStep(number);
+        slider.setMinimum(number);
+        slider.setMaximum(number);
+        slider.setRange(number, number);
+    }
     // Each is finite, their distance is not.
     slider.setRange(-1.5e308, 1.5e308);
     QCOMPARE(slider.value(), 0.5);

@@ -13,6 +13,7 @@ class tst_SliderPaint : public QObject
 private Q_SLOTS:
     void thumbStandsAtValue_data();
     void thumbStandsAtValue();
+    void thumbPointsOutOfRange();
     void trackIsFilled();
     void ticksAreWhereTheyBelong();
     void numbersNeverTouch_data();
@@ -90,7 +91,18 @@ QRect boundsOf(const QImage& image, const QColor& color)
     return bounds;
 }
 
-/// How many pixels of the row or column \a at have \a color.
+bool isBlank(const QImage& image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != QColor(Qt::white).rgb())
+                return false;
+        }
+    }
+    return true;
+}
+
+/// Where \a row has \a color.
 QList<int> offsetsOf(const QImage& image, int row, const QColor& color)
 {
     QList<int> offsets;
@@ -124,6 +136,28 @@ void tst_SliderPaint::thumbStandsAtValue()
     TestSlider slider(Slider::RealValue, Slider::LinearMode, isVertical ? Qt::Vertical : Qt::Horizontal, 105);
     slider.setValue(value);
     QCOMPARE(boundsOf(slider.image(), kThumb), bounds);
+}
+
+void tst_SliderPaint::thumbPointsOutOfRange()
+{
+    for (const bool isVertical : {false, true}) {
+        for (const bool isBelow : {false, true}) {
+            TestSlider slider(Slider::RealValue, Slider::LinearMode,
+                              isVertical ? Qt::Vertical : Qt::Horizontal, 105);
+            slider.setValue(isBelow ? -3 : 3);
+            QImage image = slider.image();
+            if (isVertical)
+                image = image.transformed(QTransform().rotate(90));
+            // The edges are antialiased; what is inside of them is longer than the thumb and grows from the
+            // tip.
+            const QRect bounds = boundsOf(image, kThumb);
+            const int left = boundsOf(image.copy(bounds.left(), 0, 1, image.height()), kThumb).height();
+            const int right = boundsOf(image.copy(bounds.right(), 0, 1, image.height()), kThumb).height();
+            QVERIFY(bounds.width() > 6);
+            QVERIFY(isBelow ? bounds.left() < 6 : bounds.right() > 98);
+            QVERIFY(isBelow ? left < right : left > right);
+        }
+    }
 }
 
 void tst_SliderPaint::trackIsFilled()
@@ -186,25 +220,28 @@ void tst_SliderPaint::numbersNeverTouch()
     font.setPointSize(6);
     const QFontMetrics metrics(font);
     for (int length = 30; length < 400; length += 7) {
-        TestSlider slider(Slider::RealValue, Slider::SliderMode(mode), Qt::Horizontal, length);
-        slider.setRange(minimum, maximum);
-        slider.hasThumb = false;
-        slider.hasTicks = false;
-        const QImage image = slider.image();
-        int blank = 0;
-        int widest = 0;
-        int run = 0;
-        for (int x = 0; x < length; ++x) {
-            bool isBlank = true;
-            for (int y = 12; y < 20; ++y)
-                isBlank = isBlank && image.pixel(x, y) == QColor(Qt::white).rgb();
-            blank = isBlank ? blank + 1 : 0;
-            run = blank < 3 ? run + 1 : 0;
-            widest = qMax(widest, run);
+        for (const bool isVertical : {false, true}) {
+            TestSlider slider(Slider::RealValue, Slider::SliderMode(mode),
+                              isVertical ? Qt::Vertical : Qt::Horizontal, length);
+            slider.setRange(minimum, maximum);
+            slider.hasThumb = false;
+            slider.hasTicks = false;
+            const QImage image = slider.image();
+            // No run of ink is longer than a number: numbers that touch would be. Digits stand close in a
+            // row.
+            const int gap = isVertical ? 1 : 3;
+            const int most =
+                isVertical ? metrics.ascent() : metrics.boundingRect(QLatin1String("-12345.6")).width() + 6;
+            int blank = 0;
+            int run = 0;
+            for (int i = 0; i < length; ++i) {
+                const QImage across = isVertical ? image.copy(0, i, 17, 1) : image.copy(i, 12, 1, 8);
+                blank = isBlank(across) ? blank + 1 : 0;
+                run = blank < gap ? run + 1 : 0;
+                QVERIFY2(run <= most,
+                         qPrintable(QString::fromLatin1("%1 pixels: ink over %2").arg(length).arg(run)));
+            }
         }
-        // No run of ink is longer than the longest number: numbers that touch would be.
-        QVERIFY2(widest <= metrics.boundingRect(QLatin1String("-12345.6")).width() + 6,
-                 qPrintable(QString::fromLatin1("%1 pixels: ink over %2").arg(length).arg(widest)));
     }
 }
 
