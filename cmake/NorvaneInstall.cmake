@@ -58,7 +58,6 @@ set(public_headers
 if(NORVANE_PYTHON)
     list(APPEND public_headers
         python/ProgressTaskType.h
-        python/PythonVersion.h
         python/RunInMainThread.h)
 endif()
 foreach(header IN LISTS public_headers)
