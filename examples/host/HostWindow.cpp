@@ -74,6 +74,8 @@ void HostWindow::connectPanel(QWidget* panel)
         connect(panel, SIGNAL(pictureChosen(QString)), this, SLOT(openPicture(QString)));
         connect(panel, SIGNAL(picturesDropped(QStringList)), this, SLOT(openPictures(QStringList)));
     } else if (qobject_cast<InspectorPanel*>(panel)) {
+        connect(panel, SIGNAL(frameChanged(QString, QString)), this,
+                SLOT(reinterpretFrame(QString, QString)));
         updateInspectors();
     } else if (qobject_cast<NotesPanel*>(panel)) {
         connect(panel, SIGNAL(textReplaced(QString)), this, SLOT(keepText(QString)));
@@ -126,6 +128,7 @@ void HostWindow::viewerMayHaveChanged()
 {
     updateTitle();
     updateInspectors();
+    m_saveFrameAction->setEnabled(focusedViewer() && !focusedViewer()->picture().isNull());
     Q_EMIT focusedViewerChanged(focusedViewer());
 }
 

@@ -87,6 +87,11 @@ void PictureView::setGrade(const PictureGrade& grade)
     update();
 }
 
+QImage PictureView::gradedPicture()
+{
+    return m_grade.isNeutral() ? m_picture : gradedImage(levelFor(1), m_grade);
+}
+
 QSize PictureView::sizeHint() const
 {
     return QSize(480, 320);

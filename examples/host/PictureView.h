@@ -37,6 +37,8 @@ public:
     /// How the picture is changed for the eye; picture() stays as it is.
     const PictureGrade& grade() const;
     void setGrade(const PictureGrade& grade);
+    /// The picture as it is seen.
+    QImage gradedPicture();
 
     QSize sizeHint() const override;
 

@@ -54,6 +54,8 @@ void tst_HostPanels::viewerStateIsRead_data()
     QTest::newRow("fitted") << "fit|/a/b.png" << true << 1.0 << QPointF() << "/a/b.png";
     QTest::newRow("zoomed") << "1.5 20.25 -3|/a b" << false << 1.5 << QPointF(20.25, -3) << "/a b";
     QTest::newRow("bar in path") << "fit|/a|b.png" << true << 1.0 << QPointF() << "/a|b.png";
+    QTest::newRow("frame") << "fit|frame:v210:4x2|/a.yuv" << true << 1.0 << QPointF()
+                           << "frame:v210:4x2|/a.yuv";
     QTest::newRow("only a path") << "/a/b.png" << true << 1.0 << QPointF() << "/a/b.png";
     QTest::newRow("no number") << "big 1 2|/a" << true << 1.0 << QPointF() << "/a";
     QTest::newRow("no zoom at all") << "0 1 2|/a" << true << 1.0 << QPointF() << "/a";
