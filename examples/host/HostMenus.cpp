@@ -67,6 +67,7 @@ void HostWindow::buildPanelsMenu()
     addEntry(menu, tr("New Contro&ls"), SLOT(newControls()));
     addEntry(menu, tr("New C&olour"), SLOT(newColour()));
     addEntry(menu, tr("New &Script"), SLOT(newScript()));
+    addEntry(menu, tr("New Scop&es"), SLOT(newScopes()));
     menu->addSeparator();
     m_notesMenu = menu->addMenu(tr("&Closed Notes"));
     connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillNotesMenu()));

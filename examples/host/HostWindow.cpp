@@ -8,6 +8,7 @@
 #include "NotesPanel.h"
 #include "Pictures.h"
 #include "PicturesPanel.h"
+#include "ScopesPanel.h"
 #include "ViewerPanel.h"
 
 #include <ui/docking/Dock.h>
@@ -87,6 +88,10 @@ void HostWindow::connectPanel(QWidget* panel)
         connect(this, SIGNAL(focusedViewerChanged(Norvane::Host::ViewerPanel*)), colour,
                 SLOT(setViewer(Norvane::Host::ViewerPanel*)));
         colour->setViewer(focusedViewer());
+    } else if (ScopesPanel* const scopes = qobject_cast<ScopesPanel*>(panel)) {
+        connect(this, SIGNAL(focusedViewerChanged(Norvane::Host::ViewerPanel*)), scopes,
+                SLOT(setViewer(Norvane::Host::ViewerPanel*)));
+        scopes->setViewer(focusedViewer());
     }
 }
 
@@ -259,6 +264,11 @@ void HostWindow::newScript()
     // Below the pictures, where there is room for lines.
     Dock* const pane = findDockByName(QLatin1String("Notes."), false, true);
     addPanel(m_panels.createPanel(PanelRegistry::ScriptKind), pane ? pane : paneForPanels());
+}
+
+void HostWindow::newScopes()
+{
+    addPanel(m_panels.createPanel(PanelRegistry::ScopesKind), paneForControls());
 }
 
 void HostWindow::reopenNotes(QAction* action)

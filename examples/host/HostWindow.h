@@ -71,6 +71,7 @@ private Q_SLOTS:
     void newControls();
     void newColour();
     void newScript();
+    void newScopes();
     void fillNotesMenu();
     void reopenNotes(QAction* action);
 

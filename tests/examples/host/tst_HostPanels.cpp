@@ -219,10 +219,11 @@ void tst_HostPanels::idsNamePanels_data()
     QTest::newRow("pictures") << "Pictures.12" << true;
     QTest::newRow("controls") << "Controls.2" << true;
     QTest::newRow("colour") << "Colour.1" << true;
+    QTest::newRow("scopes") << "Scopes.1" << true;
     QTest::newRow("notes") << "Notes.3" << true;
     QTest::newRow("files") << "Files.1" << true;
     QTest::newRow("inspector") << "Inspector.2" << true;
-    QTest::newRow("unknown kind") << "Scopes.1" << false;
+    QTest::newRow("unknown kind") << "Sounds.1" << false;
     QTest::newRow("no number") << "Viewer." << false;
     QTest::newRow("number zero") << "Viewer.0" << false;
     QTest::newRow("leading zero") << "Viewer.01" << false;
