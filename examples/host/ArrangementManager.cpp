@@ -1,9 +1,9 @@
 #include "ArrangementManager.h"
 
 #include "ArrangementFolder.h"
+#include "ArrangementName.h"
 
 #include <QDialogButtonBox>
-#include <QInputDialog>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
@@ -64,11 +64,8 @@ void ArrangementManager::updateButtons()
 void ArrangementManager::renameCurrent()
 {
     const QString from = currentName();
-    bool accepted = false;
-    const QString to = QInputDialog::getText(this, tr("Rename Arrangement"), tr("Name of the arrangement:"),
-                                             QLineEdit::Normal, from, &accepted)
-                           .simplified();
-    if (!accepted || to.isEmpty())
+    const QString to = askForArrangementName(this, tr("Rename Arrangement"), from, QStringList());
+    if (to.isEmpty())
         return;
     QString problem;
     if (m_folder->rename(from, to, &problem)) {

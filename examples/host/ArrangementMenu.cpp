@@ -1,6 +1,7 @@
 #include "ArrangementMenu.h"
 
 #include "ArrangementManager.h"
+#include "ArrangementName.h"
 #include "Arrangements.h"
 #include "LayoutStore.h"
 
@@ -8,7 +9,6 @@
 
 #include <QActionGroup>
 #include <QFontMetrics>
-#include <QInputDialog>
 #include <QMessageBox>
 
 namespace Norvane { namespace Host {
@@ -118,13 +118,9 @@ void ArrangementMenu::chooseOwn(QAction* action)
 
 void ArrangementMenu::save()
 {
-    bool accepted = false;
     // None is preset: a new name is what is wanted most of the time.
-    const QString name =
-        QInputDialog::getItem(m_window, tr("Save Arrangement"), tr("Name of the arrangement:"),
-                              QStringList(QString()) + m_folder.names(), 0, true, &accepted)
-            .simplified();
-    if (!accepted || name.isEmpty() || !mayOverwrite(name))
+    const QString name = askForArrangementName(m_window, tr("Save Arrangement"), QString(), m_folder.names());
+    if (name.isEmpty() || !mayOverwrite(name))
         return;
     QString problem;
     if (!m_folder.write(name, LayoutStore::layoutOf(m_window), &problem)) {
