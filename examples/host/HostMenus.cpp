@@ -1,6 +1,5 @@
 // The menus of the main window and what the simple entries do.
 
-#include "Arrangements.h"
 #include "ControlHelp.h"
 #include "DisplayOptions.h"
 #include "HostWindow.h"
@@ -74,15 +73,6 @@ void HostWindow::buildPanelsMenu()
     connect(m_notesMenu, SIGNAL(triggered(QAction*)), this, SLOT(reopenNotes(QAction*)));
 }
 
-void HostWindow::buildArrangementMenu()
-{
-    QMenu* const menu = menuBar()->addMenu(tr("&Arrangement"));
-    addEntry(menu, tr("&Single"), nullptr, tr("Ctrl+1"))->setData(int(kSingleArrangement));
-    addEntry(menu, tr("Side &by Side"), nullptr, tr("Ctrl+2"))->setData(int(kSideBySideArrangement));
-    addEntry(menu, tr("&Review"), nullptr, tr("Ctrl+3"))->setData(int(kReviewArrangement));
-    connect(menu, SIGNAL(triggered(QAction*)), this, SLOT(chooseArrangement(QAction*)));
-}
-
 void HostWindow::buildTasksMenu()
 {
     QMenu* const menu = menuBar()->addMenu(tr("&Tasks"));
@@ -146,6 +136,11 @@ void HostWindow::changeOption(QAction* action)
     QSettings().setValue(QLatin1String(option.key), on);
     if (option.needsNewPanes)
         rebuildPanes();
+    showTitles();
+}
+
+void HostWindow::showTitles()
+{
     const QList<UI::Dock*> panes = docks();
     for (UI::Dock* const pane : panes) {
         pane->setTitleVisible(!hideSingleTabs() || pane->count() != 1);
@@ -163,11 +158,6 @@ void HostWindow::choosePalette(QAction* action)
     const bool dark = action->data().toBool();
     QSettings().setValue(QLatin1String("Display/Dark"), dark);
     Palettes::apply(dark);
-}
-
-void HostWindow::chooseArrangement(QAction* action)
-{
-    arrange(Arrangement(action->data().toInt()));
 }
 
 void HostWindow::fillNotesMenu()

@@ -1,5 +1,6 @@
 // How the main window restores and saves arrangements.
 
+#include "ArrangementRecorder.h"
 #include "Arrangements.h"
 #include "CommandLine.h"
 #include "HostWindow.h"
@@ -65,12 +66,17 @@ void HostWindow::start(const CommandLine& commandLine)
         keepFormerLayout(m_layoutPath);
     const bool restored = !commandLine.fresh && restoreSession();
     m_started = true;
-    if (restored) {
+    if (restored)
         openPictures(commandLine.pictures);
-        return;
-    }
-    const QStringList pictures = commandLine.pictures.isEmpty() ? samplePictures() : commandLine.pictures;
-    for (const QString& picture : pictures)
+    else
+        showFirstArrangement(commandLine.pictures);
+    m_recorder->start();
+}
+
+void HostWindow::showFirstArrangement(const QStringList& pictures)
+{
+    const QStringList shown = pictures.isEmpty() ? samplePictures() : pictures;
+    for (const QString& picture : shown)
         qobject_cast<ViewerPanel*>(m_panels.createPanel(PanelRegistry::ViewerKind))->openPicture(picture);
     arrange(kSideBySideArrangement);
 }

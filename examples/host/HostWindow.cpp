@@ -1,5 +1,6 @@
 #include "HostWindow.h"
 
+#include "ArrangementRecorder.h"
 #include "ColourPanel.h"
 #include "ControlHelp.h"
 #include "ControlsPanel.h"
@@ -27,7 +28,8 @@ namespace Norvane { namespace Host {
 using UI::Dock;
 
 HostWindow::HostWindow()
-    : m_progress(this)
+    : m_recorder(new ArrangementRecorder(this))
+    , m_progress(this)
     , m_analysis(PictureList::thumbnailSize() * 2)
     , m_scripts(&m_pictures)
     , m_panels(&m_pictures, &m_scripts)
@@ -105,6 +107,7 @@ void HostWindow::tidyUp()
 {
     if (m_restoring)
         return;
+    m_recorder->keepStates(m_panels.closedPanels());
     m_panels.deleteClosedPanels();
     viewerMayHaveChanged();
 }

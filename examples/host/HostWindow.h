@@ -21,6 +21,8 @@ enum Arrangement : int;
 struct ArrangedPanels;
 struct CommandLine;
 struct FrameLayout;
+class ArrangementMenu;
+class ArrangementRecorder;
 class ControlHelp;
 struct MainWindowPlace;
 class ViewerPanel;
@@ -38,6 +40,8 @@ public:
     /// named.
     void start(const CommandLine& commandLine);
 
+    UI::DockWindow* createWindow() override;
+    UI::Dock* createDock() override;
     QWidget* createPage(QString& id) override;
 
     /// The viewer that last had the keyboard focus, which panels with controls act on. Another one if that is
@@ -75,7 +79,11 @@ private Q_SLOTS:
     void fillNotesMenu();
     void reopenNotes(QAction* action);
 
-    void chooseArrangement(QAction* action);
+    void showBuiltIn(int arrangement);
+    void showOwn(const QString& name, const QByteArray& layout);
+    void undoArrangement();
+    void redoArrangement();
+    void updateArrangementSteps();
     void changeOption(QAction* action);
     void toggleFullScreen();
     void choosePalette(QAction* action);
@@ -101,15 +109,22 @@ private:
     QAction* addEntry(QMenu* menu, const QString& text, const char* slot,
                       const QString& shortcut = QString());
     void applyOptions();
+    /// Shows and hides the panes' titles as the display options have it.
+    void showTitles();
 
     void saveFrameAs(const ViewerPanel& viewer, const FrameLayout& layout, const QString& path);
 
+    /// \a pictures may be empty: there are samples.
+    void showFirstArrangement(const QStringList& pictures);
     bool restoreSession();
     bool saveSession(QString* problem);
     bool restoreFile(const QString& path);
     /// Refuses a layout that is broken; if restoring fails all the same, brings the former arrangement back.
     /// Tells the user about either; \a name is what to call the layout.
     bool restoreSafely(const QByteArray& layout, const QString& name);
+    /// Empty for none.
+    void showStep(const QByteArray& layout);
+    QByteArray withoutStatesOfPanels(const QByteArray& layout) const;
     void rebuildPanes();
     void focusAfterRestore();
     void restoreKeptTexts();
@@ -129,6 +144,9 @@ private:
     void updateInspectors();
     void viewerMayHaveChanged();
 
+    /// Children of the window.
+    ArrangementRecorder* m_recorder;
+    ArrangementMenu* m_arrangementMenu = nullptr;
     PictureList m_pictures;
     UI::DialogProgressManager m_progress;
     /// Its tasks are the manager's.

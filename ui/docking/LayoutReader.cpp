@@ -36,6 +36,9 @@ void place(DockWindow* window, const SavedWindow& saved, bool fill, QMainWindow*
     // A window manager ignores the new size of a full-screen window, and Qt 6 may never learn that it did.
     const bool staysFullscreen =
         fullscreen && WidgetUtils::GetFullscreen(window) && Screens::numberOf(window) == saved.screen;
+    // First of all: a full-screen window given another size may stay so, while Qt thinks that it does not.
+    if (!fullscreen)
+        WidgetUtils::SetFullscreen(window, false, mainWindow);
     if (!staysFullscreen)
         setFrameGeometry(window, frame);
     WidgetUtils::SetFullscreen(window, fullscreen, mainWindow);

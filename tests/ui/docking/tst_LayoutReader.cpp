@@ -20,6 +20,7 @@ private Q_SLOTS:
     void windowIsPlaced_data();
     void windowIsPlaced();
     void mainWindowFillsScreen();
+    void mainWindowLeavesFullscreen();
     void brokenDocumentIsReported_data();
     void brokenDocumentIsReported();
     void unreadableDeviceIsReported();
@@ -175,6 +176,21 @@ void tst_LayoutReader::mainWindowFillsScreen()
     QVERIFY(desk.restore(layout(window("") + window("")), true));
     WAIT_FOR(desk.window->frameGeometry() == Screens::availableGeometry(0));
     QVERIFY(desk.window->floatingWindows().first()->frameGeometry() != desk.window->frameGeometry());
+}
+
+void tst_LayoutReader::mainWindowLeavesFullscreen()
+{
+    Desk desk;
+    const DockMainWindow* const window = desk.window;
+    QVERIFY(desk.show());
+    WAIT_FOR(window->frameSize() != window->size());
+    const QByteArray saved = desk.save();
+    const QRect frame = window->frameGeometry();
+    desk.window->setWindowState(Qt::WindowFullScreen);
+    WAIT_FOR(window->frameSize() == window->size() && window->width() > frame.width());
+    QVERIFY(desk.restore(saved));
+    WAIT_FOR(window->frameSize() != window->size() && window->frameGeometry() == frame);
+    QVERIFY(!window->isFullScreen());
 }
 
 void tst_LayoutReader::brokenDocumentIsReported_data()

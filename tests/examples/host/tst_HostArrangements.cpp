@@ -1,0 +1,177 @@
+#include <examples/host/ArrangementFolder.h>
+#include <examples/host/ArrangementMenu.h>
+#include <examples/host/CommandLine.h>
+#include <examples/host/HostWindow.h>
+#include <examples/host/LayoutStore.h>
+#include <examples/host/NotesPanel.h>
+#include <examples/host/ViewerPanel.h>
+
+#include <tests/support/Desk.h>
+#include <tests/support/MessageBoxCloser.h>
+
+#include <QAction>
+#include <QDir>
+#include <QSettings>
+
+using namespace NorvaneTest;
+using namespace Norvane;
+using namespace Norvane::Host;
+
+class tst_HostArrangements : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void cleanupTestCase();
+    void switchIsUndone();
+    void closedViewerComesBack();
+    void ownArrangementIsShown();
+    void brokenArrangementChangesNothing();
+
+private:
+    /// The entry of the menu with this text, mnemonic and all.
+    QAction* entry(const char* text) const;
+    /// The panes of the main window.
+    QString panes() const { return tree(m_window->rootSplitter()); }
+
+    QString m_folder;
+    QPointer<HostWindow> m_window;
+    QPointer<ArrangementMenu> m_menu;
+};
+
+void tst_HostArrangements::initTestCase()
+{
+    m_folder = QDir::temp().filePath(
+        QString::fromLatin1("tst_HostArrangements-%1").arg(QCoreApplication::applicationPid()));
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder);
+    QCoreApplication::setOrganizationName(latin1("Norvane"));
+    QCoreApplication::setApplicationName(latin1("norvane-host"));
+}
+
+void tst_HostArrangements::init()
+{
+    m_window = new HostWindow;
+    m_menu = m_window->findChild<ArrangementMenu*>();
+    CommandLine commandLine;
+    commandLine.fresh = true;
+    for (const char* const name : {"Dunes.png", "StillLife.png"})
+        commandLine.pictures.append(QDir(latin1(NORVANE_SAMPLES)).filePath(latin1(name)));
+    m_window->start(commandLine);
+}
+
+void tst_HostArrangements::cleanup()
+{
+    m_window->close();
+    WAIT_FOR(!m_window);
+}
+
+void tst_HostArrangements::cleanupTestCase()
+{
+    const QString folders[] = {ArrangementFolder::defaultPath(), QFileInfo(QSettings().fileName()).path()};
+    for (const QString& folder : folders) {
+        const QStringList files = QDir(folder).entryList(QDir::Files);
+        for (const QString& file : files)
+            QVERIFY(QDir(folder).remove(file));
+        QVERIFY(QDir().rmdir(folder));
+    }
+    QDir().rmdir(m_folder);
+}
+
+QAction* tst_HostArrangements::entry(const char* text) const
+{
+    const QList<QAction*> entries = m_menu->actions();
+    for (QAction* const action : entries) {
+        if (action->text() == latin1(text))
+            return action;
+    }
+    return nullptr;
+}
+
+void tst_HostArrangements::switchIsUndone()
+{
+    QAction* const undo = entry("&Undo");
+    QAction* const redo = entry("Re&do");
+    NotesPanel* const notes = m_window->findChild<NotesPanel*>();
+    const QString sideBySide = panes();
+    QVERIFY(!undo->isEnabled() && !redo->isEnabled());
+
+    entry("&Single")->trigger();
+    WAIT_FOR(undo->isEnabled());
+    const QString single = panes();
+    QVERIFY(single != sideBySide);
+    notes->setPlainText(latin1("typed since"));
+    entry("&Review")->trigger();
+    // At once: the switch is a step by itself.
+    undo->trigger();
+    QCOMPARE(panes(), single);
+    undo->trigger();
+    QCOMPARE(panes(), sideBySide);
+    QVERIFY(!undo->isEnabled());
+    QCOMPARE(notes->toPlainText(), latin1("typed since"));
+
+    redo->trigger();
+    QCOMPARE(panes(), single);
+    redo->trigger();
+    QCOMPARE(int(m_window->floatingWindows().size()), 1);
+    QVERIFY(!redo->isEnabled());
+    QCOMPARE(int(m_window->findChildren<NotesPanel*>().size()), 1);
+    QCOMPARE(notes->toPlainText(), latin1("typed since"));
+}
+
+void tst_HostArrangements::closedViewerComesBack()
+{
+    QAction* const undo = entry("&Undo");
+    QPointer<ViewerPanel> viewer = m_window->focusedViewer();
+    const QString id = viewer->objectName();
+    viewer->setLayoutState(latin1("2.5 40 30|/no/such/Picture.png"));
+    const QString before = panes();
+    Dock::dockForWidget(viewer)->closeActiveTab();
+    WAIT_FOR(!viewer && undo->isEnabled());
+    QVERIFY(panes() != before);
+    undo->trigger();
+    QCOMPARE(panes(), before);
+    QCOMPARE(m_window->findDockByName(id, true, false)->currentWidget()->property("layoutState").toString(),
+             latin1("2.5 40 30|/no/such/Picture.png"));
+}
+
+void tst_HostArrangements::ownArrangementIsShown()
+{
+    const QString name = latin1("A & B");
+    entry("&Single")->trigger();
+    const QString single = panes();
+    QString problem;
+    ArrangementFolder folder(ArrangementFolder::defaultPath());
+    QVERIFY(folder.write(name, LayoutStore::layoutOf(m_window), &problem));
+    entry("Side &by Side")->trigger();
+    QMetaObject::invokeMethod(m_window, "newViewer");
+    QVERIFY(QMetaObject::invokeMethod(m_menu, "refresh"));
+
+    QCOMPARE(entry("A && B")->shortcut(), QKeySequence(latin1("Ctrl+4")));
+    entry("A && B")->trigger();
+    const Dock* const pane = m_window->findDockByName(latin1("Viewer.3"), true, false);
+    QVERIFY(pane);
+    QCOMPARE(pane->objectName(), latin1("pane.viewers"));
+    QCOMPARE(panes().remove(latin1(" Viewer 3/Viewer.3")), single);
+}
+
+void tst_HostArrangements::brokenArrangementChangesNothing()
+{
+    QString problem;
+    ArrangementFolder folder(ArrangementFolder::defaultPath());
+    QVERIFY(folder.write(latin1("Broken"), "<layout version=\"1.0\">\n<window>", &problem));
+    QVERIFY(QMetaObject::invokeMethod(m_menu, "refresh"));
+    const QString before = panes();
+    MessageBoxCloser closer;
+    entry("Broken")->trigger();
+    QCOMPARE(closer.count(), 1);
+    QVERIFY2(closer.lastText().contains(latin1("\"Broken\"")), qPrintable(closer.lastText()));
+    QVERIFY2(closer.lastText().contains(latin1("2")), qPrintable(closer.lastText()));
+    QCOMPARE(panes(), before);
+    QVERIFY(folder.contains(latin1("Broken")));
+}
+
+QTEST_MAIN(tst_HostArrangements)
+#include "tst_HostArrangements.moc"
