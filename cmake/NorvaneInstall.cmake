@@ -43,7 +43,11 @@ set(public_headers
     ui/progress/TaskPrivate.h
     ui/sliders/LogSlider.h
     ui/sliders/Slider.h
+    ui/toolkit/Application.h
     ui/toolkit/Events.h
+    ui/toolkit/Images.h
+    ui/toolkit/Painting.h
+    ui/toolkit/Screens.h
     ui/widgets/ApplicationPaths.h
     ui/widgets/AppSettings.h
     ui/widgets/BubbleWidget.h
@@ -58,7 +62,6 @@ set(public_headers
 if(NORVANE_PYTHON)
     list(APPEND public_headers
         python/ProgressTaskType.h
-        python/PythonVersion.h
         python/RunInMainThread.h)
 endif()
 foreach(header IN LISTS public_headers)
