@@ -13,6 +13,7 @@ class NORVANE_CORE_EXPORT DropAcceptingListWidget : public DropAcceptingWidget<Q
 {
     Q_OBJECT
 public:
+    /// Accepts nothing yet.
     explicit DropAcceptingListWidget(QWidget* parent);
     ~DropAcceptingListWidget() override;
 
