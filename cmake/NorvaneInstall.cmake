@@ -1,5 +1,5 @@
-# What `cmake --install` puts in place: the library, its public headers, and what find_package(NorvaneCore) and
-# pkg-config read.
+# What `cmake --install` puts in place, in two components: `runtime` is the library, `development` its public headers
+# and what find_package(NorvaneCore) and pkg-config read.
 
 include(CMakePackageConfigHelpers)
 
@@ -66,16 +66,19 @@ if(NORVANE_PYTHON)
 endif()
 foreach(header IN LISTS public_headers)
     get_filename_component(folder ${header} DIRECTORY)
-    install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${header_dir}/${folder})
+    install(FILES ${PROJECT_SOURCE_DIR}/${header}
+        DESTINATION ${header_dir}/${folder} COMPONENT development)
 endforeach()
+install(FILES ${PROJECT_BINARY_DIR}/generated/NorvaneCoreVersion.h
+    DESTINATION ${header_dir} COMPONENT development)
 
 # norvane_qt goes along because the library's interface is made of it.
 set_target_properties(norvane_qt PROPERTIES EXPORT_NAME qt)
 install(TARGETS core norvane_qt EXPORT NorvaneCoreTargets
-    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(EXPORT NorvaneCoreTargets NAMESPACE Norvane:: DESTINATION ${package_dir})
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+install(EXPORT NorvaneCoreTargets NAMESPACE Norvane:: DESTINATION ${package_dir} COMPONENT development)
 
 # find_dependency() says by itself whether the package is required.
 string(REPLACE " REQUIRED" "" NORVANE_QT_DEPENDENCY "${NORVANE_QT_PACKAGE}")
@@ -89,7 +92,7 @@ write_basic_package_version_file(
 install(FILES
     ${PROJECT_BINARY_DIR}/NorvaneCoreConfig.cmake
     ${PROJECT_BINARY_DIR}/NorvaneCoreConfigVersion.cmake
-    DESTINATION ${package_dir})
+    DESTINATION ${package_dir} COMPONENT development)
 
 if(NORVANE_QT EQUAL 4)
     set(NORVANE_QT_PKGCONFIG QtGui)
@@ -102,4 +105,11 @@ configure_file(
     ${PROJECT_SOURCE_DIR}/cmake/norvane-core.pc.in
     ${PROJECT_BINARY_DIR}/norvane-core.pc
     @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/norvane-core.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES ${PROJECT_BINARY_DIR}/norvane-core.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
+install(FILES
+    ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+    ${PROJECT_SOURCE_DIR}/LICENSE
+    ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/norvane-core COMPONENT runtime)

@@ -1,6 +1,9 @@
 # The library: its folders add their sources to this target.
 
-add_library(core SHARED)
+configure_file(${PROJECT_SOURCE_DIR}/NorvaneCoreVersion.h.in ${PROJECT_BINARY_DIR}/generated/NorvaneCoreVersion.h @ONLY)
+
+add_library(core SHARED
+    NorvaneCoreVersion.cpp)
 add_library(Norvane::core ALIAS core)
 set_target_properties(core PROPERTIES
     OUTPUT_NAME norvane-core
@@ -8,6 +11,7 @@ set_target_properties(core PROPERTIES
     SOVERSION ${PROJECT_VERSION_MAJOR})
 target_include_directories(core PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+    $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/generated>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/norvane/core>)
 target_compile_definitions(core PRIVATE NORVANE_CORE_BUILD)
 target_link_libraries(core PUBLIC norvane_qt)

@@ -1,9 +1,11 @@
-# norvane_add_test(tst_Name [INTERNAL] [ACCESSIBLE] [SOURCES more.cpp...] [LABELS label...])
+# norvane_add_test(tst_Name [INTERNAL] [ACCESSIBLE] [HEADLESS] [SOURCES more.cpp...] [LABELS label...])
 #
 # Builds tst_Name.cpp and registers it with CTest. INTERNAL gives it the classes that the shared library keeps to
-# itself. ACCESSIBLE runs it where assistive technology is listening. A Qt warning that the test did not announce with QTest::ignoreMessage() is a failure.
+# itself. ACCESSIBLE runs it where assistive technology is listening. HEADLESS lets it run beside others: it needs no
+# desktop, which is one test's at a time. A Qt warning that the test did not announce with QTest::ignoreMessage() is a
+# failure.
 function(norvane_add_test name)
-    cmake_parse_arguments(TEST "INTERNAL;ACCESSIBLE" "" "SOURCES;LABELS" ${ARGN})
+    cmake_parse_arguments(TEST "INTERNAL;ACCESSIBLE;HEADLESS" "" "SOURCES;LABELS" ${ARGN})
     add_executable(${name} ${name}.cpp ${TEST_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     if(TEST_INTERNAL)
@@ -19,6 +21,9 @@ function(norvane_add_test name)
         add_test(NAME ${name} COMMAND ${name})
     endif()
     set_tests_properties(${name} PROPERTIES LABELS "${TEST_LABELS}")
+    if(NOT TEST_HEADLESS)
+        set_tests_properties(${name} PROPERTIES RESOURCE_LOCK desktop)
+    endif()
     norvane_test_environment(${name})
 endfunction()
 

@@ -17,7 +17,7 @@ COMMENT = re.compile(r"\s*///(?!<) ?(.*)")
 # What ends a group of declarations, besides an empty line.
 END = re.compile(r"\s*($|#|[{}]|//|namespace\b|(public|protected|private|Q_SIGNALS)\b.*:$|Q_[A-Z]+\b.*\)$|Q_OBJECT$)")
 OVERRIDE = re.compile(r"[^{}]*\boverride;$")
-PROPERTY = re.compile(r"\s*(Q_PROPERTY\(\w+ \w+ READ (\w+).*)")
+PROPERTY = re.compile(r"\s*(Q_PROPERTY\(\S+ \w+ READ (\w+).*)")
 
 
 def share_comments(lines):

@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include "FrameFormat.h"
+
 #include <QCoreApplication>
 
 namespace Norvane { namespace Host {
@@ -27,6 +29,15 @@ CommandLine CommandLine::parse(const QStringList& arguments)
             line.layoutPath = argument.mid(layoutPrefix.size());
         } else if (argument == QLatin1String("--layout") && i + 1 < arguments.size()) {
             line.layoutPath = arguments[++i];
+        } else if (argument == QLatin1String("--frame") && i + 2 < arguments.size()) {
+            FrameAddress address;
+            address.format = arguments[++i];
+            address.path = arguments[++i];
+            line.pictures.append(address.toString());
+        } else if (argument == QLatin1String("--frame")) {
+            line.problem =
+                QCoreApplication::translate("CommandLine", "--frame needs a layout with a size, and a file.");
+            return line;
         } else if (argument == QLatin1String("--layout")) {
             line.problem = QCoreApplication::translate("CommandLine", "--layout needs a file.");
             return line;
@@ -44,6 +55,9 @@ QString CommandLine::helpText()
         "CommandLine", "Usage: norvane-host [OPTION...] [PICTURE...]\n"
                        "Looks at pictures in panels that can be arranged freely.\n"
                        "\n"
+                       "  --frame LAYOUT:WIDTHxHEIGHT[:MATRIX] FILE\n"
+                       "                 open the raw samples of a frame, such as\n"
+                       "                 --frame v210:1920x1080 FILE; may be given again\n"
                        "  --layout FILE  restore the arrangement from FILE and save it there\n"
                        "                 on quitting, instead of that of the last session\n"
                        "  --fresh        start with the default arrangement\n"

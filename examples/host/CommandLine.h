@@ -7,6 +7,7 @@ namespace Norvane { namespace Host {
 
 /// What the user asked for on the command line.
 struct CommandLine {
+    /// Paths and frame addresses.
     QStringList pictures;
     /// Empty: the file of the last quit.
     QString layoutPath;

@@ -47,6 +47,8 @@ void HostWindow::buildFileMenu()
 {
     QMenu* const menu = menuBar()->addMenu(tr("&File"));
     addEntry(menu, tr("&Open Picture..."), SLOT(choosePictures()), tr("Ctrl+O"));
+    m_saveFrameAction = addEntry(menu, tr("Save &Frame..."), SLOT(saveFrame()), tr("Ctrl+Shift+S"));
+    m_saveFrameAction->setEnabled(false);
     menu->addSeparator();
     addEntry(menu, tr("Open &Layout..."), SLOT(chooseLayoutToOpen()), tr("Ctrl+Shift+O"));
     addEntry(menu, tr("&Save Layout..."), SLOT(chooseLayoutToSave()), tr("Ctrl+S"));
@@ -65,6 +67,7 @@ void HostWindow::buildPanelsMenu()
     addEntry(menu, tr("New Contro&ls"), SLOT(newControls()));
     addEntry(menu, tr("New C&olour"), SLOT(newColour()));
     addEntry(menu, tr("New &Script"), SLOT(newScript()));
+    addEntry(menu, tr("New Scop&es"), SLOT(newScopes()));
     menu->addSeparator();
     m_notesMenu = menu->addMenu(tr("&Closed Notes"));
     connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillNotesMenu()));

@@ -239,8 +239,9 @@ void HostWindow::arrange(Arrangement arrangement)
     panels.viewers = idsToArrange(PanelRegistry::ViewerKind);
     panels.pictures = idsToArrange(PanelRegistry::PicturesKind);
     // They share the pane of the pictures.
-    for (const PanelRegistry::Kind kind : {PanelRegistry::FilesKind, PanelRegistry::InspectorKind,
-                                           PanelRegistry::ControlsKind, PanelRegistry::ColourKind})
+    for (const PanelRegistry::Kind kind :
+         {PanelRegistry::FilesKind, PanelRegistry::InspectorKind, PanelRegistry::ControlsKind,
+          PanelRegistry::ColourKind, PanelRegistry::ScopesKind})
         panels.pictures += openIds(kind);
     panels.notes = idsToArrange(PanelRegistry::NotesKind);
     panels.currentViewer = m_activeViewer ? m_activeViewer->objectName() : panels.viewers.first();

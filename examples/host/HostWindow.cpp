@@ -8,6 +8,7 @@
 #include "NotesPanel.h"
 #include "Pictures.h"
 #include "PicturesPanel.h"
+#include "ScopesPanel.h"
 #include "ViewerPanel.h"
 
 #include <ui/docking/Dock.h>
@@ -74,6 +75,8 @@ void HostWindow::connectPanel(QWidget* panel)
         connect(panel, SIGNAL(pictureChosen(QString)), this, SLOT(openPicture(QString)));
         connect(panel, SIGNAL(picturesDropped(QStringList)), this, SLOT(openPictures(QStringList)));
     } else if (qobject_cast<InspectorPanel*>(panel)) {
+        connect(panel, SIGNAL(frameChanged(QString, QString)), this,
+                SLOT(reinterpretFrame(QString, QString)));
         updateInspectors();
     } else if (qobject_cast<NotesPanel*>(panel)) {
         connect(panel, SIGNAL(textReplaced(QString)), this, SLOT(keepText(QString)));
@@ -85,6 +88,10 @@ void HostWindow::connectPanel(QWidget* panel)
         connect(this, SIGNAL(focusedViewerChanged(Norvane::Host::ViewerPanel*)), colour,
                 SLOT(setViewer(Norvane::Host::ViewerPanel*)));
         colour->setViewer(focusedViewer());
+    } else if (ScopesPanel* const scopes = qobject_cast<ScopesPanel*>(panel)) {
+        connect(this, SIGNAL(focusedViewerChanged(Norvane::Host::ViewerPanel*)), scopes,
+                SLOT(setViewer(Norvane::Host::ViewerPanel*)));
+        scopes->setViewer(focusedViewer());
     }
 }
 
@@ -126,6 +133,7 @@ void HostWindow::viewerMayHaveChanged()
 {
     updateTitle();
     updateInspectors();
+    m_saveFrameAction->setEnabled(focusedViewer() && !focusedViewer()->picture().isNull());
     Q_EMIT focusedViewerChanged(focusedViewer());
 }
 
@@ -256,6 +264,11 @@ void HostWindow::newScript()
     // Below the pictures, where there is room for lines.
     Dock* const pane = findDockByName(QLatin1String("Notes."), false, true);
     addPanel(m_panels.createPanel(PanelRegistry::ScriptKind), pane ? pane : paneForPanels());
+}
+
+void HostWindow::newScopes()
+{
+    addPanel(m_panels.createPanel(PanelRegistry::ScopesKind), paneForControls());
 }
 
 void HostWindow::reopenNotes(QAction* action)

@@ -20,6 +20,7 @@ namespace Norvane { namespace Host {
 enum Arrangement : int;
 struct ArrangedPanels;
 struct CommandLine;
+struct FrameLayout;
 class ControlHelp;
 struct MainWindowPlace;
 class ViewerPanel;
@@ -56,6 +57,9 @@ private Q_SLOTS:
     void openPicture(const QString& path);
     void openPictures(const QStringList& paths);
     void analysePictures();
+    void saveFrame();
+    /// Shows the frame \a path as \a other wherever it is to be seen.
+    void reinterpretFrame(const QString& path, const QString& other);
     void chooseLayoutToSave();
     void chooseLayoutToOpen();
 
@@ -67,6 +71,7 @@ private Q_SLOTS:
     void newControls();
     void newColour();
     void newScript();
+    void newScopes();
     void fillNotesMenu();
     void reopenNotes(QAction* action);
 
@@ -96,6 +101,8 @@ private:
     QAction* addEntry(QMenu* menu, const QString& text, const char* slot,
                       const QString& shortcut = QString());
     void applyOptions();
+
+    void saveFrameAs(const ViewerPanel& viewer, const FrameLayout& layout, const QString& path);
 
     bool restoreSession();
     bool saveSession(QString* problem);
@@ -132,6 +139,7 @@ private:
     ControlHelp* m_controlHelp;
     QMenu* m_notesMenu = nullptr;
     QAction* m_fullScreenAction = nullptr;
+    QAction* m_saveFrameAction = nullptr;
     /// The pane that last had the keyboard focus, which a menu may have by now.
     QPointer<UI::Dock> m_activePane;
     QPointer<ViewerPanel> m_activeViewer;

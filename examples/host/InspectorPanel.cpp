@@ -1,6 +1,7 @@
 #include "InspectorPanel.h"
 
 #include "FactsTable.h"
+#include "FrameInspector.h"
 
 #include <ui/widgets/DisclosureButton.h>
 
@@ -39,6 +40,12 @@ InspectorPanel::InspectorPanel(int number, QWidget* parent)
         addGroup(tr("Colours"), tr("The mean colour of the picture and its extremes."), picture);
     m_colours = addTable(colours, 2 * kIndent);
     m_transparency = addTable(picture, kIndent);
+    DisclosureButton* const frame =
+        addGroup(tr("Frame"), tr("How the samples of a frame of video are understood."), nullptr);
+    m_frame = new FrameInspector(contents);
+    addToGroup(frame, m_frame, kIndent);
+    connect(m_frame, SIGNAL(frameChanged(QString, QString)), this, SIGNAL(frameChanged(QString, QString)));
+    showFrameGroup();
     colourTriangles();
 }
 
@@ -72,18 +79,31 @@ DisclosureButton* InspectorPanel::addGroup(const QString& title, const QString& 
         outer->addWidget(label);
     }
     m_groups.append(button);
+    m_titles.append(label);
     return button;
 }
 
 FactsTable* InspectorPanel::addTable(DisclosureButton* group, int indent)
 {
     FactsTable* const table = new FactsTable(widget());
+    addToGroup(group, table, indent);
+    return table;
+}
+
+void InspectorPanel::addToGroup(DisclosureButton* group, QWidget* content, int indent)
+{
     QHBoxLayout* const line = new QHBoxLayout;
     line->addSpacing(indent);
-    line->addWidget(table);
+    line->addWidget(content);
     m_layout->insertLayout(m_layout->count() - 1, line);
-    group->addWidget(table);
-    return table;
+    group->addWidget(content);
+}
+
+// The others are never empty for long; this one is there for few pictures.
+void InspectorPanel::showFrameGroup()
+{
+    m_groups.last()->setVisible(m_frame->hasFrame());
+    m_titles.last()->setVisible(m_frame->hasFrame());
 }
 
 void InspectorPanel::setPicture(const QString& path, const QImage& picture)
@@ -92,6 +112,8 @@ void InspectorPanel::setPicture(const QString& path, const QImage& picture)
     m_picture->setFacts(picture.isNull() ? Facts() : pictureFacts(picture));
     m_colours->setFacts(colourFacts(picture));
     m_transparency->setFacts(transparencyFacts(picture));
+    m_frame->setPicture(path);
+    showFrameGroup();
     updateGroups();
 }
 

@@ -15,6 +15,7 @@ class DisclosureButton;
 namespace Norvane { namespace Host {
 
 class FactsTable;
+class FrameInspector;
 
 /// A panel that tells about the picture in the viewer that was used last, in groups that can be closed. The
 /// layout state is which of them are open: a 1 or a 0 for each.
@@ -32,6 +33,10 @@ public:
     QString layoutState() const;
     void setLayoutState(const QString& text);
 
+Q_SIGNALS:
+    /// The user wants the frame \a path shown as \a other.
+    void frameChanged(const QString& path, const QString& other);
+
 protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -41,15 +46,20 @@ private:
     UI::DisclosureButton* addGroup(const QString& title, const QString& whatsThis,
                                    UI::DisclosureButton* outer);
     FactsTable* addTable(UI::DisclosureButton* group, int indent);
+    void addToGroup(UI::DisclosureButton* group, QWidget* content, int indent);
+    void showFrameGroup();
     void updateGroups();
     void colourTriangles();
 
     QVBoxLayout* m_layout;
     QList<UI::DisclosureButton*> m_groups;
+    /// Beside the buttons.
+    QList<QWidget*> m_titles;
     FactsTable* m_file;
     FactsTable* m_picture;
     FactsTable* m_transparency;
     FactsTable* m_colours;
+    FrameInspector* m_frame;
 };
 
 }} // namespace Norvane::Host

@@ -7,6 +7,7 @@
 #include "NotesPanel.h"
 #include "PictureList.h"
 #include "PicturesPanel.h"
+#include "ScopesPanel.h"
 #include "ScriptPanel.h"
 #include "ViewerPanel.h"
 
@@ -17,8 +18,8 @@ namespace Norvane { namespace Host {
 namespace {
 
 /// By Kind.
-const char* const kKindNames[] = {"Viewer",    "Pictures", "Notes",  "Files",
-                                  "Inspector", "Controls", "Colour", "Script"};
+const char* const kKindNames[] = {"Viewer",   "Pictures", "Notes",  "Files", "Inspector",
+                                  "Controls", "Colour",   "Script", "Scopes"};
 const int kKindCount = sizeof kKindNames / sizeof kKindNames[0];
 
 template <class Panel>
@@ -167,6 +168,9 @@ QWidget* PanelRegistry::create(Kind kind, int number)
         break;
     case ScriptKind:
         panel = new ScriptPanel(m_scripts, number);
+        break;
+    case ScopesKind:
+        panel = new ScopesPanel(number);
         break;
     }
     panel->setObjectName(idText(kind, number));

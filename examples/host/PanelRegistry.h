@@ -23,7 +23,17 @@ class PanelRegistry : public QObject
 {
     Q_OBJECT
 public:
-    enum Kind { ViewerKind, PicturesKind, NotesKind, FilesKind, InspectorKind, ControlsKind, ColourKind, ScriptKind };
+    enum Kind {
+        ViewerKind,
+        PicturesKind,
+        NotesKind,
+        FilesKind,
+        InspectorKind,
+        ControlsKind,
+        ColourKind,
+        ScriptKind,
+        ScopesKind
+    };
 
     /// \a pictures is shown by all panels with pictures, \a scripts runs what is typed in panels for scripts;
     /// they are not owned.

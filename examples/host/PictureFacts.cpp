@@ -1,5 +1,7 @@
 #include "PictureFacts.h"
 
+#include "Pictures.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
@@ -37,7 +39,7 @@ void visitPixels(const QImage& picture, Visit visit)
 
 Facts fileFacts(const QString& path)
 {
-    const QFileInfo file(path);
+    const QFileInfo file(Pictures::filePath(path));
     Facts facts;
     facts << qMakePair(tr("Name"), file.fileName())
           << qMakePair(tr("Folder"), QDir::toNativeSeparators(file.absolutePath()))

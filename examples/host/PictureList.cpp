@@ -99,6 +99,17 @@ void PictureList::removePicture(const QString& path)
     endRemoveRows();
 }
 
+void PictureList::replacePicture(const QString& path, const QString& other)
+{
+    const int row = rowOf(path);
+    if (row < 0 || rowOf(other) >= 0)
+        return;
+    m_entries[row].path = other;
+    m_entries[row].hasThumbnail = false;
+    Q_EMIT dataChanged(index(row), index(row));
+    QTimer::singleShot(0, this, SLOT(makeNextThumbnail()));
+}
+
 QString PictureList::pathAt(const QModelIndex& index) const
 {
     return index.isValid() ? m_entries[index.row()].path : QString();
@@ -121,7 +132,7 @@ QVariant PictureList::data(const QModelIndex& index, int role) const
     case Qt::DecorationRole:
         return entry.thumbnail;
     case Qt::ToolTipRole:
-        return QDir::toNativeSeparators(entry.path);
+        return QDir::toNativeSeparators(Pictures::filePath(entry.path));
     default:
         return QVariant();
     }

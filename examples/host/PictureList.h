@@ -20,6 +20,8 @@ public:
     QStringList paths() const;
     void addPicture(const QString& path);
     void removePicture(const QString& path);
+    /// Lists \a other in the place of \a path, unless it is listed already.
+    void replacePicture(const QString& path, const QString& other);
 
     QString pathAt(const QModelIndex& index) const;
 

@@ -41,6 +41,7 @@ void PictureView::setPicture(const QImage& picture)
     if (m_fitted)
         m_center = QPointF(picture.width(), picture.height()) / 2;
     viewHasChanged();
+    Q_EMIT colorsChanged();
 }
 
 void PictureView::setMessage(const QString& title, const QString& detail)
@@ -85,6 +86,12 @@ void PictureView::setGrade(const PictureGrade& grade)
         return;
     m_grade = grade;
     update();
+    Q_EMIT colorsChanged();
+}
+
+QImage PictureView::gradedPicture()
+{
+    return m_grade.isNeutral() ? m_picture : gradedImage(levelFor(1), m_grade);
 }
 
 QSize PictureView::sizeHint() const

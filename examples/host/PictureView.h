@@ -37,6 +37,8 @@ public:
     /// How the picture is changed for the eye; picture() stays as it is.
     const PictureGrade& grade() const;
     void setGrade(const PictureGrade& grade);
+    /// The picture as it is seen.
+    QImage gradedPicture();
 
     QSize sizeHint() const override;
 
@@ -51,6 +53,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Zoom, centre or the kind of fitting changed.
     void viewChanged();
+    /// There is another picture, or it is graded in another way.
+    void colorsChanged();
     /// The mouse is over the picture's pixel \a pixel.
     void pixelPointed(const QPoint& pixel);
     void pixelLeft();

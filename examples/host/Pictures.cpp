@@ -1,5 +1,8 @@
 #include "Pictures.h"
 
+#include "FrameFormat.h"
+#include "VideoFrames.h"
+
 #include <ui/toolkit/Images.h>
 
 #include <QCoreApplication>
@@ -14,20 +17,45 @@ namespace Norvane { namespace Host { namespace Pictures {
 
 QString nameOf(const QString& path)
 {
-    return QFileInfo(path).fileName();
+    return QFileInfo(filePath(path)).fileName();
+}
+
+QString filePath(const QString& path)
+{
+    const FrameAddress address = FrameAddress::fromString(path);
+    return address.path.isNull() ? path : address.path;
 }
 
 QString canonicalPath(const QString& path)
 {
-    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    FrameAddress address = FrameAddress::fromString(path);
+    if (address.path.isNull())
+        return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    address.path = canonicalPath(address.path);
+    return address.toString();
 }
+
+namespace {
+
+QImage readFrame(const FrameAddress& address, const QSize& largest, QString* problem)
+{
+    const QImage frame = VideoFrames::read(address, problem);
+    const bool fits = frame.width() <= largest.width() && frame.height() <= largest.height();
+    return !largest.isValid() || fits ? frame
+                                      : frame.scaled(largest, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
 
 QImage read(const QString& path, const QSize& largest, QString* problem)
 {
-    if (!QFileInfo(path).isFile()) {
+    const FrameAddress address = FrameAddress::fromString(path);
+    if (!QFileInfo(filePath(path)).isFile()) {
         *problem = QCoreApplication::translate("Pictures", "There is no such file.");
         return QImage();
     }
+    if (!address.path.isNull())
+        return readFrame(address, largest, problem);
     QImageReader reader(path);
     UI::setAutoTransform(&reader);
     // Files are what they hold, not what they are called.

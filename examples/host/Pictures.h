@@ -7,11 +7,14 @@
 class QMimeData;
 class QSize;
 
-/// Picture files.
+/// Picture files. Whatever is called a path here may be a FrameAddress too.
 namespace Norvane { namespace Host { namespace Pictures {
 
 /// The part of \a path that people know a picture by.
 QString nameOf(const QString& path);
+
+/// The file of the picture.
+QString filePath(const QString& path);
 
 /// The one spelling of \a path that pictures are compared by: absolute and without detours.
 QString canonicalPath(const QString& path);

@@ -2,6 +2,8 @@
 
 #include "ScriptInterpreter.h"
 
+#include <pythread.h>
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
@@ -33,6 +35,16 @@ bool loadConsole()
     Py_DECREF(code);
     Py_XDECREF(module);
     return module;
+}
+
+/// Calls a function of console.py and lets \a args go. A new reference; null for an exception.
+PyObject* callConsole(const char* name, PyObject* args)
+{
+    PyObject* const function = args ? PyObject_GetAttrString(console(), name) : nullptr;
+    PyObject* const result = function ? PyObject_CallObject(function, args) : nullptr;
+    Py_XDECREF(function);
+    Py_XDECREF(args);
+    return result;
 }
 
 /// Says what an exception is about that nobody handled, also one that a call from another thread left here.
@@ -124,10 +136,9 @@ bool ScriptInterpreter::push(const QString& line)
     const Turn turn(this);
     const QByteArray utf8 = line.toUtf8();
     PyObject* const text = PyUnicode_DecodeUTF8(utf8.constData(), utf8.size(), "replace");
-    PyObject* const needsMore = PyObject_CallMethod(console(), "push", "O", text);
+    PyObject* const needsMore = callConsole("push", Py_BuildValue("(N)", text));
     const bool answer = needsMore && PyObject_IsTrue(needsMore) == 1;
     Py_XDECREF(needsMore);
-    Py_XDECREF(text);
     return answer;
 }
 
@@ -138,8 +149,8 @@ void ScriptInterpreter::run(const QByteArray& script, const QString& name)
     const Turn turn(this);
     // Bytes, which may name their encoding.
     PyObject* const bytes = PyBytes_FromStringAndSize(script.constData(), script.size());
-    Py_XDECREF(PyObject_CallMethod(console(), "run", "Os", bytes, name.toUtf8().constData()));
-    Py_XDECREF(bytes);
+    PyObject* const result = callConsole("run", Py_BuildValue("(Ns)", bytes, name.toUtf8().constData()));
+    Py_XDECREF(result);
 }
 
 bool ScriptInterpreter::isRunning() const
@@ -163,7 +174,8 @@ void ScriptInterpreter::finish()
     m_isStarted = false;
     stopThreads();
     const PyGILState_STATE state = PyGILState_Ensure();
-    Py_XDECREF(PyObject_CallMethod(console(), "forget", nullptr));
+    PyObject* const result = callConsole("forget", PyTuple_New(0));
+    Py_XDECREF(result);
     setUpScriptModule(nullptr, nullptr);
     PyErr_Clear();
     PyGILState_Release(state);
@@ -177,7 +189,7 @@ void ScriptInterpreter::stopThreads()
     timer.start();
     for (;;) {
         const PyGILState_STATE state = PyGILState_Ensure();
-        PyObject* const idents = PyObject_CallMethod(console(), "other_threads", nullptr);
+        PyObject* const idents = callConsole("other_threads", PyTuple_New(0));
         const Py_ssize_t count = idents ? PyList_Size(idents) : 0;
         for (Py_ssize_t i = 0; i < count; ++i)
             PyThreadState_SetAsyncExc(PyLong_AsLong(PyList_GetItem(idents, i)), PyExc_SystemExit);

@@ -90,6 +90,11 @@ void ViewerPanel::openPicture(const QString& path)
     setPicturePath(Pictures::canonicalPath(path));
 }
 
+void ViewerPanel::replacePicture(const QString& path)
+{
+    setPicturePath(Pictures::canonicalPath(path));
+}
+
 QString ViewerPanel::layoutState() const
 {
     ViewerState state;

@@ -30,6 +30,9 @@ public:
     /// Fits the picture at \a path into the view.
     void openPicture(const QString& path);
 
+    /// Shows the picture at \a path in the place of the present one: zoomed and graded like that.
+    void replacePicture(const QString& path);
+
     /// The view, which controls grade and zoom.
     PictureView* view() const;
 

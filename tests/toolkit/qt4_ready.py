@@ -99,7 +99,7 @@ RULES = [
      "QSet<int> all(list.begin(), list.end());", "QSet<int> all(list.toSet());"),
     (r"\b(QFileInfo::exists|removeRecursively|listSeparator|QByteArray::fromStdString|formattedDataSize)\s*\(",
      "a later function", "if (QFileInfo::exists(path))", "if (QFile::exists(path))"),
-    (r"[tT]o(Secs|Seconds)SinceEpoch|\w+SecsSinceEpoch\b(?<!MSecsSinceEpoch)|\bstartOfDay\b|\bendOfDay\b",
+    (r"\b(to|set|from|current)SecsSinceEpoch\b|\bstartOfDay\b|\bendOfDay\b",
      "times are toTime_t or milliseconds since the epoch",
      "f(now.toSecsSinceEpoch());", "f(now.toMSecsSinceEpoch());"),
     (r"\bdurationElapsed\b|\bdurationTo\b|\bQElapsedTimer::Duration\b", "QElapsedTimer counts milliseconds",

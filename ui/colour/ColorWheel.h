@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <type_traits>
 
 class QImage;
 
@@ -30,6 +31,10 @@ namespace UI {
 class NORVANE_CORE_EXPORT ColorWheel : public QWidget, public ColorControlWidget
 {
     Q_OBJECT
+    Q_ENUMS(DisplayMode InteractionMode)
+    Q_PROPERTY(DisplayMode displayMode READ displayMode WRITE setDisplayMode)
+    Q_PROPERTY(InteractionMode interactionMode READ interactionMode WRITE setInteractionMode)
+    Q_PROPERTY(bool zoomEnabled READ getZoomEnabled WRITE setZoomEnabled)
 public:
     /// What the wheel looks like.
     enum DisplayMode {
@@ -48,6 +53,14 @@ public:
     explicit ColorWheel(Colour::TransformI* transform);
     /// The same, shown as \a mode says.
     ColorWheel(Colour::TransformI* transform, const DisplayMode& mode);
+    /// Without a transform, as forms make it. Only for what is certainly a widget: a null pointer is a
+    /// transform.
+    template <class Parent, class = typename std::enable_if<std::is_base_of<QWidget, Parent>::value>::type>
+    explicit ColorWheel(Parent* parent)
+        : ColorWheel(static_cast<Colour::TransformI*>(nullptr))
+    {
+        setParent(parent);
+    }
     ~ColorWheel() override;
 
     /// Takes the fraction of \a hue.

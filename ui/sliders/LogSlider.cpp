@@ -51,6 +51,36 @@ void LogSlider::setRealRange(int minExp, int maxExp, int precision)
     update();
 }
 
+int LogSlider::minimumExponent() const
+{
+    return d->minExp;
+}
+
+void LogSlider::pushMinimumExponent(int exponent)
+{
+    setRealRange(exponent, qMax(exponent + 1, d->maxExp), qMax(1, d->precision));
+}
+
+int LogSlider::maximumExponent() const
+{
+    return d->maxExp;
+}
+
+void LogSlider::pushMaximumExponent(int exponent)
+{
+    setRealRange(qMin(d->minExp, exponent - 1), exponent, qMax(1, d->precision));
+}
+
+int LogSlider::precision() const
+{
+    return d->precision;
+}
+
+void LogSlider::refine(int precision)
+{
+    setRealRange(d->minExp, qMax(d->minExp + 1, d->maxExp), qMax(1, precision));
+}
+
 double LogSlider::realValue() const
 {
     d->requireRange();

@@ -23,6 +23,9 @@ class NORVANE_CORE_EXPORT LogSlider : public QSlider
     Q_PROPERTY(int tickTextSize READ tickTextSize WRITE setTickTextSize)
     Q_PROPERTY(QColor tickColor READ tickColor WRITE setTickColor)
     Q_PROPERTY(QColor expTickColor READ expTickColor WRITE setExpTickColor)
+    Q_PROPERTY(int minimumExponent READ minimumExponent WRITE pushMinimumExponent)
+    Q_PROPERTY(int maximumExponent READ maximumExponent WRITE pushMaximumExponent)
+    Q_PROPERTY(int precision READ precision WRITE refine)
 public:
     /// A vertical slider, as QSlider's.
     explicit LogSlider(QWidget* parent = nullptr);
@@ -66,6 +69,15 @@ protected:
     int calculateSliderValue(double realValue) const;
 
 private:
+    /// What setRealRange() was told last, one by one for forms: with an exponent that is not below or above
+    /// the other one, this gives way.
+    int minimumExponent() const;
+    void pushMinimumExponent(int exponent);
+    int maximumExponent() const;
+    void pushMaximumExponent(int exponent);
+    int precision() const;
+    void refine(int precision);
+
     int tickPosition(double value, int start, int span) const;
     bool checkTick(const QRect& rect, int position) const;
     void drawTick(QPainter& painter, const QRect& rect, int position, bool exp) const;

@@ -37,11 +37,21 @@ Slider::Slider(ValueType type, SliderMode mode, Qt::Orientation orientation, QWi
     setAutoFillBackground(true);
 }
 
+Slider::Slider(QWidget* parent)
+    : Slider(RealValue, LinearMode, Qt::Horizontal, parent)
+{
+}
+
 Slider::~Slider() = default;
 
 Slider::ValueType Slider::type() const
 {
     return d->type;
+}
+
+Slider::SliderMode Slider::mode() const
+{
+    return d->mode;
 }
 
 Qt::Orientation Slider::orientation() const
@@ -164,6 +174,16 @@ void Slider::setMinimum(double minimum)
 void Slider::setMaximum(double maximum)
 {
     setRange(d->minimum, maximum);
+}
+
+void Slider::pushMinimum(double minimum)
+{
+    setRange(minimum, qMax(minimum, d->maximum));
+}
+
+void Slider::pushMaximum(double maximum)
+{
+    setRange(qMin(d->minimum, maximum), maximum);
 }
 
 void Slider::setMinTickSeparation(int pixels)

@@ -26,6 +26,14 @@ namespace Norvane { namespace UI {
 class NORVANE_CORE_EXPORT Slider : public QWidget
 {
     Q_OBJECT
+    Q_ENUMS(ValueType SliderMode)
+    Q_PROPERTY(ValueType type READ type WRITE setType)
+    Q_PROPERTY(SliderMode mode READ mode WRITE setMode)
+    Q_PROPERTY(Qt::Orientation orientation READ orientation WRITE setOrientation)
+    Q_PROPERTY(double minimum READ minimum WRITE pushMinimum)
+    Q_PROPERTY(double maximum READ maximum WRITE pushMaximum)
+    Q_PROPERTY(double step READ step WRITE setStep)
+    Q_PROPERTY(double value READ value WRITE setValue USER true)
 public:
     /// Integers are rounded half away from zero.
     enum ValueType { IntegerValue, RealValue };
@@ -35,10 +43,13 @@ public:
 
     /// Integers range from 0 to 100 and start at 0, reals from 0 to 1 and at 0.5.
     Slider(ValueType type, SliderMode mode, Qt::Orientation orientation, QWidget* parent);
+    /// Reals, linear and horizontal, as forms make it.
+    explicit Slider(QWidget* parent);
     ~Slider() override;
 
     /// As set below; minimum() is never above maximum().
     ValueType type() const;
+    SliderMode mode() const;
     Qt::Orientation orientation() const;
     double minimum() const;
     double maximum() const;
@@ -134,6 +145,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// What the properties write: one bound comes after the other, and the one that is in the way gives way.
+    void pushMinimum(double minimum);
+    void pushMaximum(double maximum);
+
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -27,7 +27,7 @@ class NORVANE_CORE_EXPORT DisclosureButton : public QCheckBox
 public:
     /// With \a showAddedWidgets, what is added while the button is checked is shown at once; otherwise it is
     /// hidden until the next update.
-    DisclosureButton(QWidget* parent, bool showAddedWidgets);
+    explicit DisclosureButton(QWidget* parent, bool showAddedWidgets = true);
     ~DisclosureButton() override;
 
     /// Shows or hides \a widget at once and adds it to the group. Not owned.

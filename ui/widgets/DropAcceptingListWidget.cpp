@@ -9,4 +9,15 @@ DropAcceptingListWidget::DropAcceptingListWidget(QWidget* parent)
 
 DropAcceptingListWidget::~DropAcceptingListWidget() = default;
 
+bool DropAcceptingListWidget::acceptsUrls() const
+{
+    return acceptsDropsFlags() & AcceptUrls;
+}
+
+void DropAcceptingListWidget::takeUrls(bool accept)
+{
+    const int others = acceptsDropsFlags() & ~AcceptUrls;
+    setAcceptsDropsFlags(AcceptedDropFlag(accept ? others | AcceptUrls : others));
+}
+
 }} // namespace Norvane::UI

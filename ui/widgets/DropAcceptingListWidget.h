@@ -12,6 +12,8 @@ namespace Norvane { namespace UI {
 class NORVANE_CORE_EXPORT DropAcceptingListWidget : public DropAcceptingWidget<QListWidget>
 {
     Q_OBJECT
+    /// For forms: whether the flags have AcceptUrls.
+    Q_PROPERTY(bool acceptsUrls READ acceptsUrls WRITE takeUrls)
 public:
     /// Accepts nothing yet.
     explicit DropAcceptingListWidget(QWidget* parent);
@@ -20,6 +22,10 @@ public:
 Q_SIGNALS:
     /// URLs were dropped: their local paths in the order in which they came, empty for what is no local file.
     void droppedUrls(const QStringList& paths) override;
+
+private:
+    bool acceptsUrls() const;
+    void takeUrls(bool accept);
 };
 
 }} // namespace Norvane::UI

@@ -14,11 +14,15 @@ namespace Norvane { namespace UI {
 class NORVANE_CORE_EXPORT FilenameField : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString filename READ filename WRITE setFilename)
+    Q_PROPERTY(QString prompt READ prompt WRITE setPrompt)
+    Q_PROPERTY(bool useNativeDialog READ useNativeDialog WRITE setUseNativeDialog)
 public:
     /// \a mode is what the dialog lets people choose; of QFileDialog::ExistingFiles only the first is taken.
     /// \a useNativeDialog chooses between the platform's dialog and Qt's own, which fileDialogShown() lets
     /// the host change.
-    FilenameField(QWidget* parent, QFileDialog::FileMode mode, bool useNativeDialog);
+    explicit FilenameField(QWidget* parent, QFileDialog::FileMode mode = QFileDialog::AnyFile,
+                           bool useNativeDialog = false);
     /// An open dialog is cancelled.
     ~FilenameField() override;
 

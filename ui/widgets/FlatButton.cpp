@@ -13,6 +13,11 @@ FlatButton::FlatButton(const QIcon& icon, QWidget* parent)
     setAttribute(Qt::WA_Hover);
 }
 
+FlatButton::FlatButton(QWidget* parent)
+    : FlatButton(QIcon(), parent)
+{
+}
+
 FlatButton::~FlatButton() = default;
 
 QSize FlatButton::sizeHint() const

@@ -16,6 +16,8 @@ class NORVANE_CORE_EXPORT FlatButton : public QAbstractButton
 public:
     /// Its tool tip and accessible name are for the host to set.
     FlatButton(const QIcon& icon, QWidget* parent);
+    /// Without an icon yet: the form that makes the button sets one.
+    explicit FlatButton(QWidget* parent);
     ~FlatButton() override;
 
     /// 22 x 22 pixels. The icon is centred in the button and never drawn larger than it was made.

@@ -18,6 +18,8 @@ namespace Norvane { namespace UI {
 class NORVANE_CORE_EXPORT SearchField : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(QString prompt READ prompt WRITE setPrompt)
+    Q_PROPERTY(bool hasCancelButton READ hasCancelButton WRITE setHasCancelButton)
 public:
     /// Empty, with neither prompt nor button.
     explicit SearchField(QWidget* parent);

@@ -10,7 +10,7 @@ def measure():
     task = norvane.ProgressTask("Measuring pictures", len(paths))
     total = 0
     for number, path in enumerate(paths):
-        task.setMessage(os.path.basename(path))
+        task.setMessage("picture %d of %d" % (number + 1, len(paths)))
         # Those of the program itself are in no file.
         if os.path.exists(path):
             total += os.path.getsize(path)

@@ -119,9 +119,9 @@ void tst_FormPanels::inspectorShowsWhatThereIs()
     picture.fill(qRgb(10, 20, 30));
     inspector.setPicture(sample("Dunes.png"), picture);
     // While it is hidden, as by a layout.
-    inspector.setLayoutState(latin1("010"));
+    inspector.setLayoutState(latin1("0101"));
     inspector.show();
-    QCOMPARE(inspector.layoutState(), latin1("010"));
+    QCOMPARE(inspector.layoutState(), latin1("0101"));
     QCOMPARE(shownTables(inspector), 1);
     inspector.setLayoutState(latin1("rubbish"));
     QCOMPARE(shownTables(inspector), 3);

@@ -54,6 +54,8 @@ void tst_HostPanels::viewerStateIsRead_data()
     QTest::newRow("fitted") << "fit|/a/b.png" << true << 1.0 << QPointF() << "/a/b.png";
     QTest::newRow("zoomed") << "1.5 20.25 -3|/a b" << false << 1.5 << QPointF(20.25, -3) << "/a b";
     QTest::newRow("bar in path") << "fit|/a|b.png" << true << 1.0 << QPointF() << "/a|b.png";
+    QTest::newRow("frame") << "fit|frame:v210:4x2|/a.yuv" << true << 1.0 << QPointF()
+                           << "frame:v210:4x2|/a.yuv";
     QTest::newRow("only a path") << "/a/b.png" << true << 1.0 << QPointF() << "/a/b.png";
     QTest::newRow("no number") << "big 1 2|/a" << true << 1.0 << QPointF() << "/a";
     QTest::newRow("no zoom at all") << "0 1 2|/a" << true << 1.0 << QPointF() << "/a";
@@ -217,10 +219,11 @@ void tst_HostPanels::idsNamePanels_data()
     QTest::newRow("pictures") << "Pictures.12" << true;
     QTest::newRow("controls") << "Controls.2" << true;
     QTest::newRow("colour") << "Colour.1" << true;
+    QTest::newRow("scopes") << "Scopes.1" << true;
     QTest::newRow("notes") << "Notes.3" << true;
     QTest::newRow("files") << "Files.1" << true;
     QTest::newRow("inspector") << "Inspector.2" << true;
-    QTest::newRow("unknown kind") << "Scopes.1" << false;
+    QTest::newRow("unknown kind") << "Sounds.1" << false;
     QTest::newRow("no number") << "Viewer." << false;
     QTest::newRow("number zero") << "Viewer.0" << false;
     QTest::newRow("leading zero") << "Viewer.01" << false;

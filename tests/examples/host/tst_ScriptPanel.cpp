@@ -105,7 +105,7 @@ void tst_ScriptPanel::examplesRun()
     QFETCH(QStringList, answers);
     panel->findChild<QMenu*>()->actions().at(example)->trigger();
     for (const QString& answer : answers)
-        WAIT_FOR(output().contains(answer));
+        QVERIFY2(NorvaneTest::waitUntil([&] { return output().contains(answer); }), qPrintable(output()));
 }
 
 // From an event of the script's own, as a click is.

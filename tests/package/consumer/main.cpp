@@ -1,6 +1,7 @@
 /// A program of somebody else's: a window with two panels side by side. It ends by itself, with 0 if all is
 /// there.
 
+#include <NorvaneCoreVersion.h>
 #include <ui/docking/Dock.h>
 #include <ui/docking/DockMainWindow.h>
 #include <ui/docking/DockSplitter.h>
@@ -11,6 +12,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <cstring>
 
 using namespace Norvane::UI;
 
@@ -50,6 +52,7 @@ int main(int argc, char* argv[])
     bool complete = check(window->docks() == (QList<Dock*>() << left << right), "the panes");
     complete &=
         check(!QIcon(QLatin1String(":/ui/qrc/images/PanelMenu.png")).pixmap(16).isNull(), "the icons");
+    complete &= check(std::strcmp(Norvane::coreVersion(), NORVANE_CORE_VERSION_STRING) == 0, "the version");
     complete &= check(window->isVisible(), "the window");
     QTimer::singleShot(0, window, SLOT(close()));
     return application.exec() == 0 && complete ? 0 : 1;

@@ -1,0 +1,10 @@
+#include <NorvaneCoreVersion.h>
+
+namespace Norvane {
+
+const char* coreVersion()
+{
+    return NORVANE_CORE_VERSION_STRING;
+}
+
+} // namespace Norvane

@@ -1,0 +1,79 @@
+// What the main window does with frames of video.
+
+#include "HostWindow.h"
+#include "Pictures.h"
+#include "PictureView.h"
+#include "VideoFrames.h"
+#include "ViewerPanel.h"
+
+#include <ui/docking/Dock.h>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace Norvane { namespace Host {
+
+namespace {
+
+/// Without a layout if \a viewer shows a common picture.
+FrameFormat formatOf(const ViewerPanel& viewer)
+{
+    FrameFormat format;
+    QString problem;
+    FrameFormat::parse(FrameAddress::fromString(viewer.picturePath()).format, &format, &problem);
+    return format;
+}
+
+QString filterOf(const FrameLayout& layout)
+{
+    return HostWindow::tr("%1 samples (*.%2)").arg(layout.name(), layout.name().toLower());
+}
+
+} // namespace
+
+void HostWindow::reinterpretFrame(const QString& path, const QString& other)
+{
+    m_pictures.replacePicture(path, other);
+    const QList<ViewerPanel*> viewers = m_panels.viewers();
+    for (ViewerPanel* const viewer : viewers) {
+        if (viewer->picturePath() == path)
+            viewer->replacePicture(other);
+    }
+}
+
+void HostWindow::saveFrame()
+{
+    const ViewerPanel* const viewer = focusedViewer();
+    if (!viewer || viewer->picture().isNull())
+        return;
+    // The layout is chosen as the type of the file.
+    QStringList filters;
+    for (const FrameLayout& layout : frameLayouts())
+        filters.append(filterOf(layout));
+    QFileDialog dialog(this, tr("Save Frame"), QFileInfo(Pictures::filePath(viewer->picturePath())).path());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(filters);
+    if (const FrameLayout* const layout = formatOf(*viewer).layout)
+        dialog.selectNameFilter(filterOf(*layout));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const FrameLayout& layout = frameLayouts()[int(filters.indexOf(dialog.selectedNameFilter()))];
+    saveFrameAs(*viewer, layout, dialog.selectedFiles().first());
+}
+
+void HostWindow::saveFrameAs(const ViewerPanel& viewer, const FrameLayout& layout, const QString& path)
+{
+    FrameFormat format = formatOf(viewer);
+    // Back into the layout that it came in: with the matrix of the user's choice.
+    if (format.layout != &layout)
+        format.matrix = layout.usualMatrix(viewer.picture().height());
+    format.layout = &layout;
+    QString problem;
+    if (VideoFrames::write(viewer.view()->gradedPicture(), format, path, &problem))
+        return;
+    QMessageBox::warning(this, tr("Save Frame"),
+                         tr("\"%1\" cannot be written.\n\n%2").arg(QDir::toNativeSeparators(path), problem));
+}
+
+}} // namespace Norvane::Host

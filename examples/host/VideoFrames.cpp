@@ -1,0 +1,181 @@
+#include "VideoFrames.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QFile>
+
+#include <algorithm>
+#include <limits>
+#include <vector>
+
+namespace Norvane { namespace Host { namespace VideoFrames {
+
+using namespace Colour;
+
+namespace {
+
+const int kRowsForFacts = 256;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("VideoFrames", text);
+}
+
+/// The samples of a file, without the padding of rows.
+struct Samples {
+    FrameFormat format;
+    QByteArray bytes;
+    qint64 rowBytes = 0;
+
+    bool read(const FrameAddress& address, QString* problem);
+    /// Aligned for every layout: QByteArray's memory is, and rows are of whole samples.
+    const void* row(int y) const { return bytes.constData() + y * rowBytes; }
+    int count() const { return format.layout->rows.countsBytes ? int(format.rowBytes()) : format.width; }
+};
+
+bool Samples::read(const FrameAddress& address, QString* problem)
+{
+    QFile file(address.path);
+    if (!FrameFormat::parse(address.format, &format, problem))
+        return false;
+    if (!file.open(QIODevice::ReadOnly)) {
+        *problem = tr("The file cannot be read: %1.").arg(file.errorString());
+        return false;
+    }
+    rowBytes =
+        file.size() == format.height * format.paddedRowBytes() ? format.paddedRowBytes() : format.rowBytes();
+    if (file.size() != format.height * rowBytes) {
+        *problem = tr("The file has %1 bytes; a frame of %2 x %3 pixels in %4 has %5.")
+                       .arg(file.size())
+                       .arg(format.width)
+                       .arg(format.height)
+                       .arg(format.layout->name())
+                       .arg(format.height * rowBytes);
+        return false;
+    }
+    bytes = file.readAll();
+    if (bytes.size() < format.height * rowBytes) {
+        *problem = tr("The file ends too early.");
+        return false;
+    }
+    return true;
+}
+
+int codeOf(float value)
+{
+    return int(255 * qBound(0.0f, value, 1.0f) + 0.5f);
+}
+
+QString codes(float value, const FrameFormat& format)
+{
+    return format.layout->rows.sampleType == kSampleFloat ? QString::number(double(value), 'f', 3)
+                                                          : QString::number(qRound(value));
+}
+
+QString span(float least, float most, const FrameFormat& format)
+{
+    return tr("%1 to %2").arg(codes(least, format), codes(most, format));
+}
+
+/// The extremes of one kind of sample.
+struct Extremes {
+    float least = std::numeric_limits<float>::max();
+    float most = std::numeric_limits<float>::lowest();
+
+    void add(const std::vector<float>& samples)
+    {
+        const auto ends = std::minmax_element(samples.begin(), samples.end());
+        least = std::min(least, *ends.first);
+        most = std::max(most, *ends.second);
+    }
+};
+
+} // namespace
+
+QImage read(const FrameAddress& address, QString* problem)
+{
+    Samples samples;
+    if (!samples.read(address, problem))
+        return QImage();
+    const FrameFormat& format = samples.format;
+    const QImage::Format pixels = format.layout->hasAlpha() ? QImage::Format_ARGB32 : QImage::Format_RGB32;
+    QImage picture(format.width, format.height, pixels);
+    if (picture.isNull()) {
+        *problem = tr("There is not enough memory for the frame.");
+        return picture;
+    }
+    std::vector<float> rgba(std::size_t(format.width + 1) * 4);
+    for (int y = 0; y < format.height; ++y) {
+        format.layout->rows.decode(samples.row(y), &rgba[3], &rgba[0], &rgba[1], &rgba[2], 4, samples.count(),
+                                   inverseCoefficients(format.matrix));
+        QRgb* const line = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < format.width; ++x) {
+            const float* const pixel = &rgba[std::size_t(x) * 4];
+            line[x] = qRgba(codeOf(pixel[0]), codeOf(pixel[1]), codeOf(pixel[2]), codeOf(pixel[3]));
+        }
+    }
+    return picture;
+}
+
+bool write(const QImage& picture, FrameFormat format, const QString& path, QString* problem)
+{
+    format.width = picture.width();
+    format.height = picture.height();
+    const QImage pixels = picture.convertToFormat(QImage::Format_ARGB32);
+    std::vector<float> rgba(std::size_t(format.width) * 4);
+    QByteArray row(int(format.paddedRowBytes()), '\0');
+    QFile file(path);
+    bool written = file.open(QIODevice::WriteOnly);
+    for (int y = 0; written && y < format.height; ++y) {
+        const QRgb* const line = reinterpret_cast<const QRgb*>(pixels.constScanLine(y));
+        for (int x = 0; x < format.width; ++x) {
+            const int codes[] = {qRed(line[x]), qGreen(line[x]), qBlue(line[x]), qAlpha(line[x])};
+            std::transform(codes, codes + 4, &rgba[std::size_t(x) * 4],
+                           [](int code) { return float(code) / 255; });
+        }
+        format.layout->rows.encode(&rgba[3], &rgba[0], &rgba[1], &rgba[2], 4, row.data(), format.width,
+                                   forwardMatrix(format.matrix));
+        written = file.write(row) == row.size();
+    }
+    // What is still in memory may not find room on the disk either.
+    if (written && file.flush())
+        return true;
+    *problem = file.errorString();
+    return false;
+}
+
+Facts rangeFacts(const FrameAddress& address)
+{
+    Samples samples;
+    QString problem;
+    if (!samples.read(address, &problem))
+        return Facts();
+    const FrameFormat& format = samples.format;
+    const std::size_t width = std::size_t(format.width);
+    // Decoders of pairs may give one pixel more.
+    std::vector<float> luma(width + 1), cb(width + 1), cr(width + 1);
+    Extremes lumaEnds, chromaEnds;
+    const int rows = qMin(kRowsForFacts, format.height);
+    for (int i = 0; i < rows; ++i) {
+        format.layout->rows.unpack(samples.row(int(qint64(i) * format.height / rows)), nullptr, luma.data(),
+                                   cb.data(), cr.data(), 1, samples.count());
+        for (std::vector<float>* const plane : {&luma, &cb, &cr})
+            plane->back() = plane->front();
+        lumaEnds.add(luma);
+        chromaEnds.add(cb);
+        chromaEnds.add(cr);
+    }
+    float legal[4];
+    legalRange(format.layout->range, legal);
+    const float lumaScale = format.layout->lumaCodes();
+    const float chromaScale = format.layout->chromaCodes();
+    return Facts() << qMakePair(tr("Layout"), format.layout->name())
+                   << qMakePair(tr("Legal luma"), span(legal[0], legal[0] + legal[1], format))
+                   << qMakePair(tr("Luma here"),
+                                span(lumaEnds.least * lumaScale, lumaEnds.most * lumaScale, format))
+                   << qMakePair(tr("Legal chroma"), span(legal[2], legal[2] + legal[3], format))
+                   << qMakePair(tr("Chroma here"),
+                                span(chromaEnds.least * chromaScale, chromaEnds.most * chromaScale, format));
+}
+
+}}} // namespace Norvane::Host::VideoFrames

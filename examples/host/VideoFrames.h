@@ -1,0 +1,20 @@
+#pragma once
+
+#include "FrameFormat.h"
+#include "PictureFacts.h"
+
+#include <QImage>
+
+/// Files that hold the Y'CbCr samples of one frame, as capture cards and converters of video write them.
+namespace Norvane { namespace Host { namespace VideoFrames {
+
+/// The frame at \a address, decoded; null, with a sentence in \a problem, if that fails. Any thread may read.
+QImage read(const FrameAddress& address, QString* problem);
+
+/// Writes \a picture as a frame of \a format, whose size is taken from the picture.
+bool write(const QImage& picture, FrameFormat format, const QString& path, QString* problem);
+
+/// The legal codes of the format, and those that the file has, of up to 256 rows all over the frame.
+Facts rangeFacts(const FrameAddress& address);
+
+}}} // namespace Norvane::Host::VideoFrames
