@@ -43,7 +43,11 @@ set(public_headers
     ui/progress/TaskPrivate.h
     ui/sliders/LogSlider.h
     ui/sliders/Slider.h
+    ui/toolkit/Application.h
     ui/toolkit/Events.h
+    ui/toolkit/Images.h
+    ui/toolkit/Painting.h
+    ui/toolkit/Screens.h
     ui/widgets/ApplicationPaths.h
     ui/widgets/AppSettings.h
     ui/widgets/BubbleWidget.h

@@ -14,11 +14,13 @@ class NORVANE_CORE_EXPORT Color4
 public:
     /// Opaque black.
     Color4();
+    /// The components as they are.
     Color4(float red, float green, float blue, float alpha);
     Color4(const Color4& other);
     Color4& operator=(const Color4& other);
     virtual ~Color4();
 
+    /// Without alpha in setRGB(), which leaves it as it is.
     void getRGBA(float* red, float* green, float* blue, float* alpha) const;
     void setRGB(float red, float green, float blue);
 
@@ -31,6 +33,7 @@ public:
     void getTemperatureMagentaGreenIntensity(float* temperature, float* magentaGreen, float* intensity) const;
     void setTemperatureMagentaGreenIntensity(float temperature, float magentaGreen, float intensity);
 
+    /// Multiply every component, or add to it; alpha only if \a includeAlpha.
     void scale(float factor, bool includeAlpha);
     void add(float amount, bool includeAlpha);
     /// Moves red, green and blue towards \a other: not at all for \a t = 0, all the way for 1.
@@ -47,6 +50,7 @@ public:
     float minComponent() const;
     float maxComponent() const;
 
+    /// Red, green, blue and alpha.
     float r;
     float g;
     float b;

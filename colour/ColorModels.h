@@ -22,6 +22,7 @@ NORVANE_CORE_EXPORT void hsvToHsl(float hue, float saturation, float value, floa
                                   float* hslSaturation, float* lightness);
 NORVANE_CORE_EXPORT void hslToHsv(float hue, float saturation, float lightness, float* hsvHue,
                                   float* hsvSaturation, float* value);
+/// Any finite hue is taken modulo 1.
 NORVANE_CORE_EXPORT void hslToRgb(float hue, float saturation, float lightness, float* red, float* green,
                                   float* blue);
 

@@ -10,11 +10,13 @@ enum YCbCrMatrix : int { kRec709, kRec601, kMoskLegacy, kMoskLegacyMPEG, kMoskLe
 
 /// R = Y + c[0] Cr; G = Y + c[1] Cr + c[2] Cb; B = Y + c[3] Cb, with Cb and Cr centred on 0.
 struct InverseCoefficients {
+    /// In the order of the formula.
     float c[4];
 };
 
 /// Three rows for Y, Cb and Cr, each with the weights of R, G and B.
 struct ForwardMatrix {
+    /// Row by row.
     float m[9];
 };
 

@@ -197,12 +197,14 @@ enum SampleType { kSample8, kSample10, kSample16, kSample32, kSampleFloat };
 struct RowLayout {
     /// "CbYCrY8", as in the names of the functions.
     const char* name;
+    /// How wide a sample is in memory.
     SampleType sampleType;
     /// Whether decode and unpack count bytes. Pass bytes() of the pixels then.
     bool countsBytes;
     /// The memory that a row of this many pixels takes. Whole groups of six for V210; whole pairs for
     /// YCbYCr8, whose decoder gives the second pixel of the last pair as well.
     std::size_t (*bytes)(int pixels);
+    /// The functions that have the layout's name.
     void (*decode)(const void* source, float* alpha, float* red, float* green, float* blue,
                    std::ptrdiff_t stride, int count, const InverseCoefficients& coefficients);
     void (*unpack)(const void* source, float* alpha, float* y, float* cb, float* cr, std::ptrdiff_t stride,

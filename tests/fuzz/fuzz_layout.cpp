@@ -24,7 +24,11 @@ namespace {
 class Panel : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QString layoutState MEMBER m_state)
+    Q_PROPERTY(QString layoutState READ layoutState WRITE setLayoutState)
+public:
+    QString layoutState() const { return m_state; }
+    void setLayoutState(const QString& state) { m_state = state; }
+
 private:
     QString m_state;
 };

@@ -2,6 +2,7 @@
 #include <ui/progress/ProgressTask.h>
 #include <ui/progress/TaskPrivate.h>
 
+#include <tests/support/GuilessMain.h>
 #include <tests/support/Interpreter.h>
 #include <tests/support/Waiting.h>
 
@@ -151,5 +152,5 @@ void tst_ProgressTaskType::threadsReport()
         QVERIFY(task->finished);
 }
 
-QTEST_GUILESS_MAIN(tst_ProgressTaskType)
+NORVANE_GUILESS_MAIN(tst_ProgressTaskType)
 #include "tst_ProgressTaskType.moc"

@@ -1,3 +1,4 @@
+#include <tests/support/GuilessMain.h>
 #include <tests/support/Interpreter.h>
 #include <tests/support/Waiting.h>
 
@@ -184,5 +185,5 @@ void tst_RunInMainThread::moreCallsThanEventTypes()
              QString::fromLatin1("4"));
 }
 
-QTEST_GUILESS_MAIN(tst_RunInMainThread)
+NORVANE_GUILESS_MAIN(tst_RunInMainThread)
 #include "tst_RunInMainThread.moc"

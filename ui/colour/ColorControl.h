@@ -34,6 +34,7 @@ public:
     explicit ColorControl(IColorControlClient* client);
     ~ColorControl() override;
 
+    /// The colour as it is now, and the one to return to.
     Colour::Color4 getColor() const;
     Colour::Color4 getDefaultColor() const;
     void getColorRGBA(float& red, float& green, float& blue, float& alpha) const;
@@ -44,6 +45,7 @@ public:
     void setDefaultColorRGBA(double red, double green, double blue, double alpha);
     /// The range of all sliders, but for temperature and magenta-green: theirs is -maximum..maximum.
     void setColorRange(double minimum, double maximum);
+    /// Whether alpha may be edited; it may at first.
     void setAlphaEnabled(bool enabled);
 
     /// New views without a parent, connected with this control.
@@ -53,6 +55,8 @@ public:
     ColorSlider* createBlueSlider(Qt::Orientation orientation);
     /// Disabled while alpha may not be edited.
     ColorSlider* createAlphaSlider(Qt::Orientation orientation);
+
+    /// New views as above, of components that are shown vertically.
     ColorSlider* createVerticalValueSlider();
     ColorSlider* createVerticalIntensitySlider();
     ColorSlider* createVerticalTemperatureSlider();

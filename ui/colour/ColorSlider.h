@@ -20,6 +20,7 @@ public:
     ColorSlider(ColorUIConstants::Component component, Qt::Orientation orientation);
     ~ColorSlider() override;
 
+    /// The component that the slider was made for.
     ColorUIConstants::Component getCompenent() const;
     /// Whether ticks and numbers are painted; they are at first.
     void setTicksEnabled(bool enabled);

@@ -36,12 +36,14 @@ class NORVANE_CORE_EXPORT ColorWheel : public QWidget, public ColorControlWidget
     Q_PROPERTY(InteractionMode interactionMode READ interactionMode WRITE setInteractionMode)
     Q_PROPERTY(bool zoomEnabled READ getZoomEnabled WRITE setZoomEnabled)
 public:
+    /// What the wheel looks like.
     enum DisplayMode {
         kDisc = 0,        ///< a disc, darkened by the value
         kInnerSquare = 1, ///< a band for the hue around a square of saturation and value; no hsvChanged()
         kValueRing = 2,   ///< a disc in a ring for the value
         kEmbedded = 3     ///< a small disc of fixed size, without zoom
     };
+    /// Where a drag takes the marker.
     enum InteractionMode {
         kAbsolute = 0, ///< the marker jumps to the mouse
         kRelative = 1  ///< the marker moves by a part of the mouse's way
@@ -49,6 +51,7 @@ public:
 
     /// A kDisc wheel. \a transform is kept for the application's sake, neither owned nor called.
     explicit ColorWheel(Colour::TransformI* transform);
+    /// The same, shown as \a mode says.
     ColorWheel(Colour::TransformI* transform, const DisplayMode& mode);
     /// Without a transform, as forms make it. Only for what is certainly a widget: a null pointer is a
     /// transform.
@@ -62,6 +65,7 @@ public:
 
     /// Takes the fraction of \a hue.
     void setHue(float hue);
+    /// The marker moves, and nothing is signalled.
     void setSaturation(float saturation);
     void setValue(float value);
     void setHSV(float hue, float saturation, float value);
@@ -75,6 +79,7 @@ public:
     void setRingValue(float value);
     float ringValue() const;
 
+    /// Whether the user and zoom() can zoom; they can at first.
     void setZoomEnabled(bool enabled);
     bool getZoomEnabled() const;
     /// What part of the mouse's way the marker moves in kRelative.
@@ -84,8 +89,10 @@ public:
     void setHueRotation(float radians);
     float hueRotation() const;
 
+    /// kDisc at first.
     void setDisplayMode(DisplayMode mode);
     DisplayMode displayMode() const;
+    /// kAbsolute at first.
     void setInteractionMode(InteractionMode mode);
     InteractionMode interactionMode() const;
     /// Whether the marker jumps to the mouse, in this drag if there is one.
@@ -104,9 +111,11 @@ public:
     void alphaEnabledChanged(bool enabled) override;
 
 public Q_SLOTS:
+    /// setHSV(), for connections.
     void setHSVSlot(float hue, float saturation, float value);
 
 Q_SIGNALS:
+    /// The user begins to edit the colour, moves on, and has ended. The arrow keys begin and end at once.
     void startDragSignal();
     void draggingSignal();
     void stopDragSignal();
@@ -116,6 +125,7 @@ Q_SIGNALS:
     void hsvChanged(float hue, float saturation, float value);
 
 protected:
+    /// What a drag changes; several at once.
     enum DragMode {
         kHueDrag = 1,
         kSaturationDrag = 2,

@@ -48,6 +48,7 @@ public:
     /// Whether \a widget shares no splitter with others: no splitter with more than one child is above it.
     static bool isTopLevel(const QWidget* widget);
 
+    /// The parts of the pane, owned by it; the controller is not owned and may be null.
     QMenu* menu() const;
     DockMainWindow* controller() const;
     QStackedWidget* stack() const;
@@ -57,10 +58,13 @@ public:
     /// The nearest DockWindow above the pane, or null.
     DockWindow* dockWindow() const;
 
+    /// How many tabs there are, and what is in them. A widget is null, the current tab -1 where there is
+    /// none.
     int count() const;
     QWidget* widget(int index) const;
     QWidget* currentWidget() const;
     int currentTab() const;
+    /// What setTitleVisible() and setExpanded() were last given.
     bool titleVisible() const;
     bool isExpanded() const;
     /// The height of the first tab in pixels, 0 when there is none.
@@ -94,7 +98,9 @@ public:
 
     /// Makes the panel current and reports its activation; for null the tab that was current before.
     void setCurrentWidget(QWidget* widget);
+    /// The same by its number; nothing for a number out of range.
     void setCurrentTab(int index);
+    /// Makes the next tab current, the first one after the last.
     void cycleCurrentWidget();
 
     /// Divides the pane and returns the new, empty pane, which lies before (left of, above) this one if \a
@@ -107,6 +113,7 @@ public:
 
     /// Gives the pane the whole extent of every splitter above it, or takes it back.
     void setExpanded(bool expanded);
+    /// Whether the window that the pane is in is in full screen.
     bool isFullscreenDock() const;
 
     /// Marks the pane as the one where a dragged panel would land.
@@ -122,11 +129,14 @@ Q_SIGNALS:
     void mouseOver(bool on);
 
 public Q_SLOTS:
+    /// Divide the pane with split(): the new pane lies right of this one, or below it.
     void splitHorizontal();
     void splitVertical();
     /// Moves all panels into a new floating pane, in reverse order; this pane stays, empty.
     void floatDock();
+    /// Moves the current panel into a new floating window that lies over this pane.
     void floatActiveTab();
+    /// Asks the current panel to close, as closeTab() does.
     void closeActiveTab();
     /// Closes all panels but the current one; panels may refuse.
     void closeInactiveTabs();
@@ -138,6 +148,7 @@ public Q_SLOTS:
     void showTab(int index);
     /// Turns the splitter that holds the pane.
     void transposeDock();
+    /// Brings the window that the pane is in to full screen, or back.
     void fullscreenDock();
     /// Writes the controller's layout to "/tmp/layout.xml", for diagnosis.
     void dumpLayout();
@@ -145,6 +156,7 @@ public Q_SLOTS:
     void setTitleVisible(bool titleVisible);
     /// Reads titles and icons of all panels again.
     void updateTitles();
+    /// Make the tab beside the current one current, around and around.
     void nextTab();
     void prevTab();
 

@@ -124,9 +124,12 @@ public:
     static bool IsLayoutValid(QIODevice* device);
 
 Q_SIGNALS:
+    /// A pane has gained, lost or activated a panel; Dock says which changes are reported. The activated
+    /// panel is null where a pane has become empty.
     void widgetAdded(Norvane::UI::Dock* dock, QWidget* widget);
     void widgetRemoved(Norvane::UI::Dock* dock, QWidget* widget);
     void widgetActivated(Norvane::UI::Dock* dock, QWidget* widget);
+    /// Emitted by emitUpdateMoskScriptName() only, on the host's behalf.
     void updateMoskScriptName(QString name);
 
 public Q_SLOTS:

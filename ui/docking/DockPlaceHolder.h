@@ -16,9 +16,11 @@ class NORVANE_CORE_EXPORT DockPlaceHolder : public QWidget
     Q_OBJECT
     Q_PROPERTY(QString layoutState READ layoutState WRITE setLayoutState)
 public:
+    /// Carries Qt::WA_DeleteOnClose: it belongs to its pane.
     explicit DockPlaceHolder(QWidget* parent = nullptr);
     ~DockPlaceHolder() override;
 
+    /// The state that the layout file holds for the missing panel.
     QString layoutState() const;
     void setLayoutState(const QString& state);
 

@@ -20,6 +20,7 @@ class NORVANE_CORE_EXPORT DockTabBar : public QTabBar
 {
     Q_OBJECT
 public:
+    /// Made by \a dock, whose tabs it shows.
     DockTabBar(Dock* dock, DockTitleBar* parent);
     ~DockTabBar() override;
 

@@ -29,6 +29,7 @@ public:
     /// Appends \a dock to the root splitter, which then owns it.
     void addWidget(Dock* dock);
 
+    /// The central widget. Owned by the window.
     DockSplitter* rootSplitter() const;
 
     /// Makes the window forget its controller.

@@ -24,6 +24,7 @@ public:
     /// Does nothing for a window that is not registered.
     void removeWindow(QWidget* window);
 
+    /// In the order in which they were added.
     const QList<QWidget*>& windows() const;
 
 private Q_SLOTS:

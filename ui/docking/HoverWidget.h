@@ -14,6 +14,7 @@ class NORVANE_CORE_EXPORT HoverWidget : public QWidget
 {
     Q_OBJECT
 public:
+    /// A window without parent, not yet shown. \a dock must outlive it.
     explicit HoverWidget(Dock* dock);
     ~HoverWidget() override;
 

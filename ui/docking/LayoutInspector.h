@@ -16,6 +16,7 @@ namespace Norvane { namespace UI {
 class NORVANE_CORE_EXPORT LayoutInspector
 {
 public:
+    /// One thing that is wrong, and where.
     struct Problem {
         /// Where the problem is in the document, both from 1: the last character of the element's start tag,
         /// or the one at which the text ceases to be XML.

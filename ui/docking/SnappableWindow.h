@@ -10,10 +10,12 @@ class NORVANE_CORE_EXPORT SnappableWindow
 {
 public:
     SnappableWindow();
+    /// A copy has the switch of the other.
     SnappableWindow(const SnappableWindow& other);
     SnappableWindow& operator=(const SnappableWindow& other);
     virtual ~SnappableWindow();
 
+    /// Whether the window snaps; it does at first.
     bool snapEnabled() const;
     void setSnapEnabled(bool enabled);
 

@@ -12,6 +12,7 @@ class NORVANE_CORE_EXPORT TitleBarButton : public QPushButton
 {
     Q_OBJECT
 public:
+    /// Without icon.
     explicit TitleBarButton(QWidget* parent);
     ~TitleBarButton() override;
 

@@ -21,6 +21,7 @@ public:
     /// into the available geometry of its screen. \a mainWindow is accepted for interface compatibility and
     /// not used.
     static void SetFullscreen(QWidget* widget, bool on, QMainWindow* mainWindow);
+    /// SetFullscreen() with the other state.
     static void ToggleFullscreen(QWidget* widget);
 
     /// Makes \a widget a tool window with title bar, system menu, minimise and maximise buttons. This hides a

@@ -53,10 +53,13 @@ public:
     /// GUI thread only.
     void beginLook();
 
+    /// Whether there is a window with the tasks and it is shown. GUI thread only.
     bool progressVisible();
 
     /// \name What a subclass with a window offers. GUI thread only; here they do nothing.
     /// @{
+
+    /// The window, or null.
     virtual QWidget* progressWidget();
     /// Keeps the window's place for restoreState().
     virtual void saveState();
@@ -64,6 +67,7 @@ public:
     virtual bool restoreState();
     /// Makes the window, with \a title and \a name unless they are empty.
     virtual bool createProgressWidget(QWidget* parent, const QString& title, const QString& name);
+    /// The same with the usual title and name.
     virtual bool createProgressWidget(QWidget* parent);
     /// False if there is none.
     virtual bool deleteProgressWidget();

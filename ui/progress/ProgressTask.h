@@ -26,6 +26,7 @@ class TaskPrivate;
 class NORVANE_CORE_EXPORT ProgressTask
 {
 public:
+    /// How a task is shown, and what the user may do.
     enum Flag {
         kDelayedPopup = 1,         ///< no row before the task is 2 seconds old, for jobs that are often short
         kUserCanCancel = 2,        ///< the row has a "Cancel" button
@@ -67,6 +68,7 @@ public:
 
     /// \a progress is -1 before the job has started, 0 when it has, then the units done.
     void setProgress(int progress);
+    /// The progress at which the job is complete.
     void setMaximum(int maximum);
     /// Cancels the task as the user would, but without a call to taskCancelled(). Sub-tasks follow soon.
     void setCancelled(bool cancelled);
@@ -78,6 +80,7 @@ public:
     /// does not wait for the dialog, which may be busy with all the tasks.
     void setErrorState(const QString& text);
 
+    /// What was last set, by whichever handle or by the user.
     int progress() const;
     bool isCancelled() const;
     bool isPaused() const;

@@ -10,13 +10,16 @@ template <typename T>
 class Relaxed
 {
 public:
+    /// Used like a plain number.
     Relaxed(T value)
         : m_value(value)
     {
     }
 
+    /// The value as of this moment, or a moment ago.
     operator T() const { return m_value.load(std::memory_order_relaxed); }
 
+    /// Other threads see it soon.
     T operator=(T value)
     {
         m_value.store(value, std::memory_order_relaxed);

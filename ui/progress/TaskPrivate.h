@@ -29,6 +29,7 @@ public:
         kErrorPending = 0x80000   ///< the row has yet to show that the task failed
     };
 
+    /// As given to the constructor of \a owner; \a parent may be null.
     TaskPrivate(ProgressTask* owner, const QString& name, int maximum, int flags, TaskPrivate* parent);
     ~TaskPrivate();
 
@@ -53,6 +54,7 @@ public:
     /// Not changed once the task is listed.
     QTime startTime;
     const QString name;
+    /// The progress at which the job is complete.
     Relaxed<int> maximum;
     /// Null for a task that is nobody's sub-task.
     const QExplicitlySharedDataPointer<TaskPrivate> parent;
@@ -60,10 +62,12 @@ public:
     Relaxed<int> progress;
     /// Bits of ProgressTask::Flag and InternalFlag.
     Relaxed<int> flags;
+    /// What the user or a handle wants; the job looks at it.
     Relaxed<bool> cancelled;
     Relaxed<bool> paused;
     /// The record may leave the manager's list.
     Relaxed<bool> finished;
+    /// The job failed.
     Relaxed<bool> error;
     /// The row that shows the task, or null. GUI thread only.
     ProgressWidget* widget = nullptr;

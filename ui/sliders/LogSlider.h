@@ -45,6 +45,7 @@ public:
 
     /// The setters below do not repaint.
 
+    /// Whether ticks and labels are painted; they are at first.
     bool drawLogTicks() const;
     void setDrawLogTicks(bool on);
     /// The size of the labels' font in pixels.

@@ -47,6 +47,7 @@ public:
     explicit Slider(QWidget* parent);
     ~Slider() override;
 
+    /// As set below; minimum() is never above maximum().
     ValueType type() const;
     SliderMode mode() const;
     Qt::Orientation orientation() const;
@@ -54,7 +55,9 @@ public:
     double maximum() const;
     /// maximum() less minimum().
     double rangeDelta() const;
+    /// How far an arrow key goes.
     double step() const;
+    /// May lie outside the range, where setValue() put it.
     double value() const;
 
     /// How far an arrow key goes: 1 for integers and 0.01 for reals at first. Dragging does not use it.
@@ -73,6 +76,7 @@ public Q_SLOTS:
     void setOrientation(Qt::Orientation orientation);
     /// Emits nothing. The value may lie outside the range.
     void setValue(double value);
+    /// Value and range stay as they are.
     void setMode(SliderMode mode);
     void setType(ValueType type);
     /// Bounds given the wrong way round are swapped. The value is left as it is, even outside the range.
@@ -87,6 +91,7 @@ Q_SIGNALS:
     void sliderMoved(double value);
     /// A mouse button was pressed; the value is still the old one.
     void sliderPressed();
+    /// The button was released. A key emits all four signals at once.
     void sliderReleased();
     /// The user moved the slider. setValue() does not emit it.
     void valueChanged(double value);
@@ -124,10 +129,12 @@ protected:
     virtual void paintSquareTicks(QPainter& painter, const QRect& tickRect, const QRect* labelRect);
     /// Paints ticks and labels with those of the ends.
     virtual void paintTicks(QPainter& painter);
+    /// Paints the thumb where the value is.
     virtual void paintThumb(QPainter& painter);
     /// Paints the thumb of a value outside the range, at \a thumb: a triangle that points to the left (0),
     /// the right (1), down (2) or up (3).
     virtual void paintOutOfRangeThumb(QPainter& painter, const QRect& thumb, int direction) const;
+    /// What paintThumb() fills the thumb with; duller while the slider is disabled.
     virtual QColor thumbColor();
 
     void resizeEvent(QResizeEvent* event) override;

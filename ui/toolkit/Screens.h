@@ -13,6 +13,7 @@ namespace Norvane { namespace UI {
 /// GUI thread only.
 namespace Screens {
 
+/// At least 1 where there is a desktop.
 NORVANE_CORE_EXPORT int count();
 
 /// The part of screen \a number that windows may cover (without panels and docks of the desktop), in global

@@ -20,6 +20,7 @@ class NORVANE_CORE_EXPORT BubbleWidget : public QDialog
 {
     Q_OBJECT
 public:
+    /// Hidden, with the pin at the bottom.
     explicit BubbleWidget(QWidget* parent);
     ~BubbleWidget() override;
 

@@ -15,6 +15,7 @@ class NORVANE_CORE_EXPORT DisclosableWidget
 {
 public:
     DisclosableWidget();
+    /// A copy asks the same buttons in isDisclosed(), but they do not know it.
     DisclosableWidget(const DisclosableWidget& other);
     DisclosableWidget& operator=(const DisclosableWidget& other);
     virtual ~DisclosableWidget();

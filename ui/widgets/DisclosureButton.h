@@ -44,6 +44,7 @@ public:
     void setVisible(bool visible) override;
 
 public Q_SLOTS:
+    /// Updates the group to what the button shows. A hidden button hides it.
     void showOrHideWidgets();
 
 protected:

@@ -15,6 +15,7 @@ class NORVANE_CORE_EXPORT DropAcceptingListWidget : public DropAcceptingWidget<Q
     /// For forms: whether the flags have AcceptUrls.
     Q_PROPERTY(bool acceptsUrls READ acceptsUrls WRITE takeUrls)
 public:
+    /// Accepts nothing yet.
     explicit DropAcceptingListWidget(QWidget* parent);
     ~DropAcceptingListWidget() override;
 

@@ -23,12 +23,16 @@ public:
     /// Accepts nothing yet.
     explicit DropAcceptingWidget(QWidget* parent);
 
+    /// What may be dropped.
     AcceptedDropFlag acceptsDropsFlags() const;
     void setAcceptsDropsFlags(AcceptedDropFlag flags);
 
 protected:
+    /// Accepts every drag once anything may be dropped.
     void dragEnterEvent(QDragEnterEvent* event) override;
+    /// The same at every place.
     void dragMoveEvent(QDragMoveEvent* event) override;
+    /// Hands files over to droppedUrls(); the sender keeps its own.
     void dropEvent(QDropEvent* event) override;
 
     /// URLs were dropped: their local paths in the order in which they came, empty for what is no local file.

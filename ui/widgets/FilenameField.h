@@ -26,6 +26,7 @@ public:
     /// An open dialog is cancelled.
     ~FilenameField() override;
 
+    /// The text as it is.
     QString filename() const;
     /// Emits filenameChanged(), twice if \a name differs from what was there, and then filenameSet().
     void setFilename(const QString& name);
@@ -34,6 +35,7 @@ public:
     QString prompt() const;
     void setPrompt(const QString& text);
 
+    /// Whether the button opens the platform's dialog instead of Qt's own.
     bool useNativeDialog() const;
     void setUseNativeDialog(bool use);
 
@@ -50,6 +52,8 @@ Q_SIGNALS:
 protected Q_SLOTS:
     /// What the button does. May be replaced.
     virtual void openFileDialog();
+
+    /// The text, or what depends on it, has changed. Not for callers.
     void textChanged();
     void enableControls();
 

@@ -14,6 +14,7 @@ class NORVANE_CORE_EXPORT FlatButton : public QAbstractButton
 {
     Q_OBJECT
 public:
+    /// Its tool tip and accessible name are for the host to set.
     FlatButton(const QIcon& icon, QWidget* parent);
     /// Without an icon yet: the form that makes the button sets one.
     explicit FlatButton(QWidget* parent);

@@ -21,9 +21,11 @@ class NORVANE_CORE_EXPORT SearchField : public QLineEdit
     Q_PROPERTY(QString prompt READ prompt WRITE setPrompt)
     Q_PROPERTY(bool hasCancelButton READ hasCancelButton WRITE setHasCancelButton)
 public:
+    /// Empty, with neither prompt nor button.
     explicit SearchField(QWidget* parent);
     ~SearchField() override;
 
+    /// Grey text, shown while the field is empty and does not have the keyboard.
     void setPrompt(const QString& prompt);
     /// Empty if none was set.
     QString prompt() const;
@@ -42,6 +44,7 @@ Q_SIGNALS:
     void cancelPressed();
 
 protected Q_SLOTS:
+    /// What the field does as the text changes and as the button is pressed. Not for callers.
     void textChanged(const QString& text);
     void cancelButtonPressed();
 

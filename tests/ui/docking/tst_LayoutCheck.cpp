@@ -1,3 +1,4 @@
+#include <tests/support/GuilessMain.h>
 #include <tests/support/LayoutDocuments.h>
 
 #include <QDir>
@@ -161,5 +162,5 @@ void tst_LayoutCheck::usageErrorGoesToStandardError()
     QVERIFY(m_error.startsWith(QLatin1String("Unknown option: --nonsense\nUsage: ")));
 }
 
-QTEST_GUILESS_MAIN(tst_LayoutCheck)
+NORVANE_GUILESS_MAIN(tst_LayoutCheck)
 #include "tst_LayoutCheck.moc"

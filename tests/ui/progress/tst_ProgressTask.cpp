@@ -2,6 +2,7 @@
 #include <ui/progress/ProgressTask.h>
 #include <ui/progress/TaskPrivate.h>
 
+#include <tests/support/GuilessMain.h>
 #include <tests/support/TaskListener.h>
 
 #include <QMutexLocker>
@@ -246,5 +247,5 @@ void tst_ProgressTask::callbackMayEndTask()
     QVERIFY(record->finished && !record->owner);
 }
 
-QTEST_GUILESS_MAIN(tst_ProgressTask)
+NORVANE_GUILESS_MAIN(tst_ProgressTask)
 #include "tst_ProgressTask.moc"

@@ -1,3 +1,5 @@
+// Not for Qt 4: its interfaces to assistive technology are others.
+
 #include <ui/sliders/LogSlider.h>
 #include <ui/sliders/Slider.h>
 

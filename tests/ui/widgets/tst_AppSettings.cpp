@@ -1,5 +1,7 @@
 #include <ui/widgets/AppSettings.h>
 
+#include <tests/support/GuilessMain.h>
+
 #include <QFile>
 #include <QtTest>
 
@@ -61,5 +63,5 @@ void tst_AppSettings::readsNoOtherFile()
     QVERIFY(!AppSettings().contains(QString::fromLatin1("key")));
 }
 
-QTEST_GUILESS_MAIN(tst_AppSettings)
+NORVANE_GUILESS_MAIN(tst_AppSettings)
 #include "tst_AppSettings.moc"
