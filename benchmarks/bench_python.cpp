@@ -1,5 +1,5 @@
-// What it costs a script's thread to have a function called on the main thread and get its result, beside what Qt's
-// own blocking call costs.
+// What it costs a script's thread to have a function called on the main thread and get its result, beside
+// what Qt's own blocking call costs.
 
 #include <python/PythonVersion.h>
 
@@ -29,7 +29,8 @@ void qtRoundTrip(benchmark::State& state)
     int result = 0;
     for (auto unused : state) {
         (void)unused;
-        QMetaObject::invokeMethod(answerer, "answer", Qt::BlockingQueuedConnection, Q_RETURN_ARG(int, result));
+        QMetaObject::invokeMethod(answerer, "answer", Qt::BlockingQueuedConnection,
+                                  Q_RETURN_ARG(int, result));
     }
 }
 BENCHMARK(qtRoundTrip)->UseRealTime();

@@ -80,8 +80,8 @@ private:
 class RunInMainThreadHandler : public QObject
 {
 public:
-    /// With the interpreter's lock, on any thread. False if there is no application, or has been and is no more;
-    /// the request is dropped then.
+    /// With the interpreter's lock, on any thread. False if there is no application, or has been and is no
+    /// more; the request is dropped then.
     static bool post(std::unique_ptr<RunInMainThreadRequestEvent> request);
 
 protected:

@@ -13,8 +13,7 @@ namespace Norvane { namespace UI {
 namespace {
 
 struct TaskObject {
-    PyObject_HEAD
-    ProgressTask* task;
+    PyObject_HEAD ProgressTask* task;
 };
 
 struct Constant {
@@ -23,12 +22,9 @@ struct Constant {
 };
 
 const Constant kConstants[] = {
-    {"kDelayedPopup", ProgressTask::kDelayedPopup},
-    {"kUserCanCancel", ProgressTask::kUserCanCancel},
-    {"kShowTimeToGo", ProgressTask::kShowTimeToGo},
-    {"kKeepWhenFinished", ProgressTask::kKeepWhenFinished},
-    {"kDisable", ProgressTask::kDisable},
-    {"kModal", ProgressTask::kModal},
+    {"kDelayedPopup", ProgressTask::kDelayedPopup}, {"kUserCanCancel", ProgressTask::kUserCanCancel},
+    {"kShowTimeToGo", ProgressTask::kShowTimeToGo}, {"kKeepWhenFinished", ProgressTask::kKeepWhenFinished},
+    {"kDisable", ProgressTask::kDisable},           {"kModal", ProgressTask::kModal},
     {"kUserCanPause", ProgressTask::kUserCanPause},
 };
 

@@ -25,8 +25,8 @@ namespace Norvane { namespace UI {
 /// interpreter's lock. On the main thread itself Python 3 raises a SystemError that was caused by it.
 NORVANE_CORE_EXPORT PyObject* run_in_main_thread(PyObject* self, PyObject* args, PyObject* kwargs);
 
-/// Waits for the call without the interpreter's lock, and returns its result or raises its exception. When the
-/// application object goes away first, RuntimeError is raised.
+/// Waits for the call without the interpreter's lock, and returns its result or raises its exception. When
+/// the application object goes away first, RuntimeError is raised.
 NORVANE_CORE_EXPORT PyObject* run_in_main_thread_with_result(PyObject* self, PyObject* args,
                                                              PyObject* kwargs);
 

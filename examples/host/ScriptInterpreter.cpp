@@ -181,8 +181,8 @@ void ScriptInterpreter::finish()
     PyGILState_Release(state);
 }
 
-/// Raises SystemExit in every thread of a script until none is left. One that waits for the main thread gets what
-/// it waits for.
+/// Raises SystemExit in every thread of a script until none is left. One that waits for the main thread gets
+/// what it waits for.
 void ScriptInterpreter::stopThreads()
 {
     QElapsedTimer timer;

@@ -7,9 +7,9 @@ namespace Norvane { namespace Host {
 
 class PictureList;
 
-/// The Python interpreter of the program, started when it is first used. Scripts run on the main thread and may
-/// start threads of their own; they import "norvane", with the library's functions and type for scripts and
-/// pictures(), the list of the paths of the open pictures, which is for the main thread only.
+/// The Python interpreter of the program, started when it is first used. Scripts run on the main thread and
+/// may start threads of their own; they import "norvane", with the library's functions and type for scripts
+/// and pictures(), the list of the paths of the open pictures, which is for the main thread only.
 ///
 /// One at a time. In a program that was built without Python it only says so.
 class ScriptInterpreter : public QObject
@@ -35,7 +35,8 @@ public:
     bool isRunning() const;
     /// Raises KeyboardInterrupt in it.
     void interrupt();
-    /// Stops the threads of scripts and frees what scripts made. Processes events for some seconds if need be.
+    /// Stops the threads of scripts and frees what scripts made. Processes events for some seconds if need
+    /// be.
     void finish();
 
 Q_SIGNALS:

@@ -31,7 +31,8 @@ PyObject* write(PyObject*, PyObject* args)
 PyObject* pictures(PyObject*, PyObject*)
 {
     if (!thePictures || QThread::currentThread() != thePictures->thread()) {
-        PyErr_SetString(PyExc_RuntimeError, "pictures() is for the main thread: use run_in_main_thread_with_result()");
+        PyErr_SetString(PyExc_RuntimeError,
+                        "pictures() is for the main thread: use run_in_main_thread_with_result()");
         return nullptr;
     }
     const QStringList paths = thePictures->paths();

@@ -94,7 +94,8 @@ QWidget* ScriptPanel::buildButtons()
     layout->setSpacing(4);
     connect(addButton(row, tr("Run..."), tr("Runs a script from a file.")), SIGNAL(clicked()), this,
             SLOT(chooseScript()));
-    QToolButton* const examples = addButton(row, tr("Examples"), tr("Runs a script that comes with the program."));
+    QToolButton* const examples =
+        addButton(row, tr("Examples"), tr("Runs a script that comes with the program."));
     QMenu* const menu = new QMenu(examples);
     for (const Example& example : kExamples)
         menu->addAction(tr(example.text))->setData(QLatin1String(example.file));
@@ -104,7 +105,8 @@ QWidget* ScriptPanel::buildButtons()
     layout->addStretch();
     m_stop = addButton(row, tr("Stop"), tr("Stops the script that keeps the program busy."));
     connect(m_stop, SIGNAL(clicked()), this, SLOT(stop()));
-    connect(addButton(row, tr("Clear"), tr("Empties the output.")), SIGNAL(clicked()), m_output, SLOT(clear()));
+    connect(addButton(row, tr("Clear"), tr("Empties the output.")), SIGNAL(clicked()), m_output,
+            SLOT(clear()));
     return row;
 }
 

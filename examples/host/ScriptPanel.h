@@ -14,8 +14,8 @@ namespace Norvane { namespace Host {
 
 class ScriptInterpreter;
 
-/// A panel with a Python prompt, which also runs scripts from files and the program's examples. The layout state
-/// is the lines last typed, which the arrow keys bring back.
+/// A panel with a Python prompt, which also runs scripts from files and the program's examples. The layout
+/// state is the lines last typed, which the arrow keys bring back.
 class ScriptPanel : public QWidget
 {
     Q_OBJECT

@@ -28,7 +28,8 @@ const char kWait[] = "result = norvane.run_in_main_thread_with_result(len, 'four
 void tst_MainThreadAtExit::beforeApplication()
 {
     python = new Interpreter;
-    QCOMPARE(python->run(kWait), QString::fromLatin1("RuntimeError: there is no application to make the call"));
+    QCOMPARE(python->run(kWait),
+             QString::fromLatin1("RuntimeError: there is no application to make the call"));
 }
 
 void tst_MainThreadAtExit::waiterIsReleased()
@@ -62,7 +63,8 @@ void tst_MainThreadAtExit::waiterIsReleased()
 
 void tst_MainThreadAtExit::afterApplication()
 {
-    QCOMPARE(python->run(kWait), QString::fromLatin1("RuntimeError: there is no application to make the call"));
+    QCOMPARE(python->run(kWait),
+             QString::fromLatin1("RuntimeError: there is no application to make the call"));
 }
 
 void tst_MainThreadAtExit::requestOutlivesInterpreter()

@@ -49,7 +49,8 @@ void tst_ProgressTaskType::results_data()
     const auto row = [](const char* expression, const char* expected) {
         QTest::newRow(expression) << QString::fromLatin1(expression) << QString::fromLatin1(expected);
     };
-    row("[Task.kDelayedPopup, Task.kUserCanCancel, Task.kShowTimeToGo, Task.kKeepWhenFinished]", "[1, 2, 4, 8]");
+    row("[Task.kDelayedPopup, Task.kUserCanCancel, Task.kShowTimeToGo, Task.kKeepWhenFinished]",
+        "[1, 2, 4, 8]");
     row("[Task.kDisable, Task.kModal, Task.kUserCanPause]", "[16, 32, 64]");
     row("(Task.__name__, Task.__doc__)", "('ProgressTask', 'ProgressTask')");
     row("Task('x').setProgress(5)", "None");

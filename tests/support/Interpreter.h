@@ -13,8 +13,8 @@
 
 namespace NorvaneTest {
 
-/// A Python interpreter with a module "norvane" that holds what the library offers to scripts. Other threads may
-/// use it whenever this one is not inside of a call. One in a process.
+/// A Python interpreter with a module "norvane" that holds what the library offers to scripts. Other threads
+/// may use it whenever this one is not inside of a call. One in a process.
 class Interpreter
 {
 public:
@@ -35,8 +35,8 @@ public:
         Py_Finalize();
     }
 
-    /// Runs \a script on this thread and returns the text of what it calls `result`, or the name and text of the
-    /// exception that ended it.
+    /// Runs \a script on this thread and returns the text of what it calls `result`, or the name and text of
+    /// the exception that ended it.
     QString run(const char* script)
     {
         const PyGILState_STATE state = PyGILState_Ensure();

@@ -69,14 +69,22 @@ void tst_ScriptPanel::promptAnswers_data()
     QTest::addColumn<QStringList>("lines");
     QTest::addColumn<QString>("answer");
     QTest::newRow("value") << QStringList("6 * 7") << ">>> 6 * 7\n42\n";
-    QTest::newRow("names") << (QStringList() << "a = 6" << "a * 7") << ">>> a * 7\n42\n";
-    QTest::newRow("lines") << (QStringList() << "for i in range(2):" << "    print(i)" << "") << "... \n0\n1\n";
+    QTest::newRow("names") << (QStringList() << "a = 6"
+                                             << "a * 7")
+                           << ">>> a * 7\n42\n";
+    QTest::newRow("lines") << (QStringList() << "for i in range(2):"
+                                             << "    print(i)"
+                                             << "")
+                           << "... \n0\n1\n";
     QTest::newRow("exception") << QStringList("{}['x']") << "KeyError: 'x'";
     QTest::newRow("syntax") << QStringList("1 +") << "SyntaxError: ";
     QTest::newRow("exit") << QStringList("raise SystemExit") << "A script cannot end the program.";
-    QTest::newRow("pictures") << (QStringList() << "import norvane" << "print(norvane.pictures()[0])")
+    QTest::newRow("pictures") << (QStringList() << "import norvane"
+                                                << "print(norvane.pictures()[0])")
                               << QString::fromUtf8("/pictures/L\xc3\xa9o.png\n");
-    QTest::newRow("error stream") << (QStringList() << "import sys" << "_ = sys.stderr.write('wrong\\n')") << "wrong\n";
+    QTest::newRow("error stream") << (QStringList() << "import sys"
+                                                    << "_ = sys.stderr.write('wrong\\n')")
+                                  << "wrong\n";
 }
 
 void tst_ScriptPanel::promptAnswers()
@@ -95,7 +103,8 @@ void tst_ScriptPanel::examplesRun_data()
     QTest::newRow("task") << 0 << QStringList("counted to 50");
     QTest::newRow("pictures") << 1 << QStringList("1 pictures, 0 bytes in files");
     QTest::newRow("exception") << 2
-                               << (QStringList() << "handled: list index out of range" << "in first_picture"
+                               << (QStringList() << "handled: list index out of range"
+                                                 << "in first_picture"
                                                  << "IndexError: list index out of range");
 }
 
@@ -118,7 +127,8 @@ void tst_ScriptPanel::stopInterruptsScript()
     }
     QVERIFY(stop && !stop->isEnabled());
     QTimer::singleShot(0, stop, SLOT(click()));
-    interpreter->run("import norvane\ntask = norvane.ProgressTask('x')\nwhile True: task.setProgress(1)\n", "loop.py");
+    interpreter->run("import norvane\ntask = norvane.ProgressTask('x')\nwhile True: task.setProgress(1)\n",
+                     "loop.py");
     QVERIFY2(output().contains(QLatin1String("KeyboardInterrupt")), qPrintable(output()));
     QVERIFY(!interpreter->isRunning() && !stop->isEnabled());
 }
@@ -149,7 +159,11 @@ void tst_ScriptPanel::historyIsKept()
         QTest::keyClick(input, key);
         recalled.append(input->text());
     }
-    QCOMPARE(recalled, QStringList() << "4" << "3" << "3" << "4" << "");
+    QCOMPARE(recalled, QStringList() << "4"
+                                     << "3"
+                                     << "3"
+                                     << "4"
+                                     << "");
 }
 
 QTEST_MAIN(tst_ScriptPanel)
