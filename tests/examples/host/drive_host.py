@@ -197,8 +197,7 @@ class Desk:
         layout = self.control_click_floats(layout)
         layout = self.restarts(layout)
         self.shortcuts_cycle_focus(layout)
-        layout = self.moves_to_second_monitor()
-        self.restarts(layout)
+        self.moves_to_second_monitor()
 
     def restarts(self, layout):
         again = self.session()
@@ -279,10 +278,10 @@ class Desk:
     def moves_to_second_monitor(self):
         if os.environ.get("NORVANE_MONITORS", "2") == "1":
             print("skipped: there is no second monitor to move to")
-            return Layout(self.path)
+            return
         result = self.session(lambda host: xdotool("windowmove", "--sync", host.window, 1320, 60))
         check(result.windows[0].get("screen") == "1", f"the window is not on the second monitor:\n{result.text}")
-        return result
+        self.restarts(result)
 
 
 def main():
