@@ -55,7 +55,8 @@ public:
     ColorWheel(Colour::TransformI* transform, const DisplayMode& mode);
     /// Without a transform, as forms make it. Only for what is certainly a widget: a null pointer is a
     /// transform.
-    template <class Parent, class = typename std::enable_if<std::is_base_of<QWidget, Parent>::value>::type>
+    template <class Parent,
+              class = typename std::enable_if<std::is_convertible<Parent*, QWidget*>::value>::type>
     explicit ColorWheel(Parent* parent)
         : ColorWheel(static_cast<Colour::TransformI*>(nullptr))
     {
