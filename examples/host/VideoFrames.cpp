@@ -16,10 +16,9 @@ namespace {
 
 const int kRowsForFacts = 256;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("VideoFrames", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(VideoFrames)
+};
 
 /// The samples of a file, without the padding of rows.
 struct Samples {
@@ -39,13 +38,13 @@ bool Samples::read(const FrameAddress& address, QString* problem)
     if (!FrameFormat::parse(address.format, &format, problem))
         return false;
     if (!file.open(QIODevice::ReadOnly)) {
-        *problem = tr("The file cannot be read: %1.").arg(file.errorString());
+        *problem = Texts::tr("The file cannot be read: %1.").arg(file.errorString());
         return false;
     }
     rowBytes =
         file.size() == format.height * format.paddedRowBytes() ? format.paddedRowBytes() : format.rowBytes();
     if (file.size() != format.height * rowBytes) {
-        *problem = tr("The file has %1 bytes; a frame of %2 x %3 pixels in %4 has %5.")
+        *problem = Texts::tr("The file has %1 bytes; a frame of %2 x %3 pixels in %4 has %5.")
                        .arg(file.size())
                        .arg(format.width)
                        .arg(format.height)
@@ -55,7 +54,7 @@ bool Samples::read(const FrameAddress& address, QString* problem)
     }
     bytes = file.readAll();
     if (bytes.size() < format.height * rowBytes) {
-        *problem = tr("The file ends too early.");
+        *problem = Texts::tr("The file ends too early.");
         return false;
     }
     return true;
@@ -74,7 +73,7 @@ QString codes(float value, const FrameFormat& format)
 
 QString span(float least, float most, const FrameFormat& format)
 {
-    return tr("%1 to %2").arg(codes(least, format), codes(most, format));
+    return Texts::tr("%1 to %2").arg(codes(least, format), codes(most, format));
 }
 
 /// The extremes of one kind of sample.
@@ -101,7 +100,7 @@ QImage read(const FrameAddress& address, QString* problem)
     const QImage::Format pixels = format.layout->hasAlpha() ? QImage::Format_ARGB32 : QImage::Format_RGB32;
     QImage picture(format.width, format.height, pixels);
     if (picture.isNull()) {
-        *problem = tr("There is not enough memory for the frame.");
+        *problem = Texts::tr("There is not enough memory for the frame.");
         return picture;
     }
     std::vector<float> rgba(std::size_t(format.width + 1) * 4);
@@ -169,12 +168,12 @@ Facts rangeFacts(const FrameAddress& address)
     legalRange(format.layout->range, legal);
     const float lumaScale = format.layout->lumaCodes();
     const float chromaScale = format.layout->chromaCodes();
-    return Facts() << qMakePair(tr("Layout"), format.layout->name())
-                   << qMakePair(tr("Legal luma"), span(legal[0], legal[0] + legal[1], format))
-                   << qMakePair(tr("Luma here"),
+    return Facts() << qMakePair(Texts::tr("Layout"), format.layout->name())
+                   << qMakePair(Texts::tr("Legal luma"), span(legal[0], legal[0] + legal[1], format))
+                   << qMakePair(Texts::tr("Luma here"),
                                 span(lumaEnds.least * lumaScale, lumaEnds.most * lumaScale, format))
-                   << qMakePair(tr("Legal chroma"), span(legal[2], legal[2] + legal[3], format))
-                   << qMakePair(tr("Chroma here"),
+                   << qMakePair(Texts::tr("Legal chroma"), span(legal[2], legal[2] + legal[3], format))
+                   << qMakePair(Texts::tr("Chroma here"),
                                 span(chromaEnds.least * chromaScale, chromaEnds.most * chromaScale, format));
 }
 
