@@ -38,4 +38,11 @@ set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
 What is needed to build programs with ${runtime_package}: headers, a CMake
 package and a file for pkg-config.")
 
+# Debian looks for the licence of each package here.
+set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE
+    DESTINATION ${doc_dir}/${runtime_package} RENAME copyright COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE
+    DESTINATION ${doc_dir}/libnorvane-core-dev RENAME copyright COMPONENT development)
+
 include(CPack)

@@ -9,6 +9,8 @@
 #include <QMenuBar>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace Norvane { namespace Benchmarks {
 
 namespace {
@@ -18,7 +20,7 @@ const int kTick = 30;
 /// How long a dialog may stay, in ticks.
 const int kDialogTicks = 12;
 /// Idle threads of a pool end after half a minute.
-const int kRest = 40000;
+const int kRestTime = 40000;
 
 QString text(int number)
 {
@@ -46,9 +48,10 @@ QList<QAction*> entriesOf(const QList<QAction*>& actions)
 
 } // namespace
 
-RandomUser::RandomUser(unsigned seed, QObject* parent)
+RandomUser::RandomUser(unsigned seed, const QString& layout, QObject* parent)
     : QObject(parent)
     , m_random(seed)
+    , m_layout(layout)
 {
     m_tool.setProcessChannelMode(QProcess::ForwardedChannels);
     connect(&m_ticks, SIGNAL(timeout()), this, SLOT(tick()));
@@ -62,17 +65,15 @@ void RandomUser::use(int milliseconds)
     m_time.start();
 }
 
-void RandomUser::rest(const QString& path)
+void RandomUser::rest()
 {
     m_phase = kRest;
-    m_duration = ::Norvane::Benchmarks::kRest;
+    m_duration = kRestTime;
     m_time.start();
     m_planned.clear();
     for (int i = 0; i < 4; ++i)
         m_planned.append(words("key Escape"));
-    m_planned.append(words("key ctrl+shift+o"));
-    m_planned.append(words("sleep 1 type --delay 5") << path);
-    m_planned.append(words("key Return"));
+    m_planned.append(openLayout());
 }
 
 // Comes in the event loops of menus and dialogs, too.
@@ -119,6 +120,7 @@ void RandomUser::doSomething()
         {"run a script", 2, &RandomUser::runScript},
         {"meddle with tasks", 4, &RandomUser::meddleWithTasks},
         {"resize a window", 1, &RandomUser::resizeWindow},
+        {"open a layout", 1, &RandomUser::openLayout},
     };
     int sum = 0;
     for (const Deed& deed : deeds)
@@ -193,7 +195,7 @@ RandomUser::Gesture RandomUser::typeText()
     if (!line)
         return Gesture();
     const QStringList texts = words("City e .png /tmp nothing");
-    return click(pointIn(line)) << words("key ctrl+a type --delay 5") << texts[upTo(int(texts.size()))];
+    return click(pointIn(line)) << words("key ctrl+a type --delay 5 --args 1") << texts[upTo(int(texts.size()))];
 }
 
 RandomUser::Gesture RandomUser::runScript()
@@ -205,7 +207,7 @@ RandomUser::Gesture RandomUser::runScript()
     static const char* const lines[] = {"sum(range(100000))", "norvane.pictures()", "raise ValueError(1)",
                                         "import threading; threading.Thread(target=norvane.pictures).start()",
                                         "t = norvane.ProgressTask('Soak'); t.cancel(); del t"};
-    return click(pointIn(prompt)) << words("key ctrl+a type --delay 5") << QString::fromLatin1(lines[upTo(5)])
+    return click(pointIn(prompt)) << words("key ctrl+a type --delay 5 --args 1") << QString::fromLatin1(lines[upTo(5)])
                                   << words("key Return");
 }
 
@@ -228,6 +230,11 @@ RandomUser::Gesture RandomUser::resizeWindow()
     return words("sleep 0.1");
 }
 
+RandomUser::Gesture RandomUser::openLayout()
+{
+    return words("key ctrl+shift+o sleep 1 type --delay 5 --args 1") << m_layout << words("key Return");
+}
+
 int RandomUser::upTo(int limit)
 {
     return std::uniform_int_distribution<int>(0, limit - 1)(m_random);
@@ -241,7 +248,9 @@ double RandomUser::fraction()
 QPoint RandomUser::pointIn(const QWidget* widget)
 {
     const QPoint point(int(fraction() * widget->width()), int(fraction() * widget->height()));
-    return widget->mapToGlobal(point);
+    // Windows may reach beyond the desktop, where no mouse gets.
+    const QPoint global = widget->mapToGlobal(point);
+    return QPoint(std::max(global.x(), 0), std::max(global.y(), 0));
 }
 
 QPoint RandomUser::pointOnDesktop()

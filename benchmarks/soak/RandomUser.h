@@ -21,13 +21,13 @@ class RandomUser : public QObject
 {
     Q_OBJECT
 public:
-    explicit RandomUser(unsigned seed, QObject* parent = nullptr);
+    /// \a layout is the path of a layout file, which is opened now and then.
+    RandomUser(unsigned seed, const QString& layout, QObject* parent = nullptr);
 
     /// Does one thing after the other for so long, then emits finished(). Dialogs that open are closed.
     void use(int milliseconds);
-    /// Closes what is open, brings the arrangement in the layout file \a path back, waits until nothing works
-    /// any more and emits finished().
-    void rest(const QString& path);
+    /// Closes what is open, opens the layout file, waits until nothing works any more and emits finished().
+    void rest();
 
     /// How often it did what.
     const QMap<QString, int>& deeds() const { return m_deeds; }
@@ -57,6 +57,7 @@ private:
     Gesture runScript();
     Gesture meddleWithTasks();
     Gesture resizeWindow();
+    Gesture openLayout();
 
     int upTo(int limit);
     double fraction();
@@ -68,6 +69,7 @@ private:
     Gesture drag(const QPoint& from, const QPoint& to) const;
 
     std::mt19937 m_random;
+    const QString m_layout;
     QProcess m_tool;
     QTimer m_ticks;
     QElapsedTimer m_time;

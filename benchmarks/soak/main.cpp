@@ -13,10 +13,14 @@
 #include <examples/host/HostWindow.h>
 #include <examples/host/Palettes.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QSettings>
 #include <QStringList>
 
@@ -29,6 +33,8 @@ using namespace Norvane::Benchmarks;
 namespace {
 
 const int kMinute = 60 * 1000;
+/// In which caches fill, and the fifty steps that can be undone.
+const int kWarmUp = 3 * kMinute;
 
 void wait(RandomUser* user)
 {
@@ -37,13 +43,26 @@ void wait(RandomUser* user)
     loop.exec();
 }
 
-Residue residueAfter(RandomUser* user, int milliseconds, const QString& layout)
+Residue residueAfter(RandomUser* user, int milliseconds)
 {
     user->use(milliseconds);
     wait(user);
-    user->rest(layout);
+    user->rest();
     wait(user);
     return Residue::now();
+}
+
+/// One of each kind, so that there is something to be done with it.
+void openPanels(const QMainWindow* window)
+{
+    const QList<QAction*> menus = window->menuBar()->actions();
+    for (const QAction* const entry : menus) {
+        const QList<QAction*> actions = entry->menu()->actions();
+        for (QAction* const action : actions) {
+            if (action->text().startsWith(QLatin1String("New ")))
+                action->trigger();
+        }
+    }
 }
 
 bool grew(const Residue& start, const Residue& end)
@@ -84,17 +103,18 @@ int main(int argc, char** argv)
     Host::HostWindow* const window = new Host::HostWindow;
     window->start(commandLine);
 
-    RandomUser user(seed);
+    openPanels(window);
     const QString layout = QDir(folder).filePath(QLatin1String("start.layout"));
     QFile file(layout);
     if (!file.open(QIODevice::WriteOnly))
         qFatal("%s cannot be written.", qPrintable(layout));
-    window->saveLayout(&file);
+    window->saveLayout(&file, nullptr);
     file.close();
 
-    const Residue start = residueAfter(&user, kMinute, layout);
+    RandomUser user(seed, layout);
+    const Residue start = residueAfter(&user, kWarmUp);
     print("start", start.toString());
-    const Residue end = residueAfter(&user, minutes * kMinute, layout);
+    const Residue end = residueAfter(&user, minutes * kMinute);
     print("end", end.toString());
     if (end.widgets > start.widgets)
         print("", end.moreWidgetsThan(start));

@@ -28,4 +28,6 @@ case "$(dpkg-deb --field "$2" Depends)" in
 esac
 for package; do
     dpkg-deb --extract "$package" "$folder/root"
+    copyright=usr/share/doc/$(dpkg-deb --field "$package" Package)/copyright
+    [ -s "$folder/root/$copyright" ] || fail "$package has no $copyright"
 done
