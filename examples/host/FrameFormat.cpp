@@ -194,6 +194,15 @@ qint64 FrameFormat::paddedRowBytes() const
     return (rowBytes() + kPaddedTo - 1) / kPaddedTo * kPaddedTo;
 }
 
+qint64 FrameFormat::rowDistance(qint64 fileSize) const
+{
+    for (const qint64 distance : {paddedRowBytes(), rowBytes()}) {
+        if (fileSize == height * distance)
+            return distance;
+    }
+    return 0;
+}
+
 FrameAddress FrameAddress::fromString(const QString& text)
 {
     FrameAddress address;

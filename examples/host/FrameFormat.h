@@ -44,6 +44,8 @@ struct FrameFormat {
     qint64 rowBytes() const;
     /// The same with the padding that is usual in files: to 128 bytes in V210, none elsewhere.
     qint64 paddedRowBytes() const;
+    /// From row to row in a file of \a fileSize bytes: one of the two above. 0 if neither makes such a file.
+    qint64 rowDistance(qint64 fileSize) const;
 };
 
 /// A frame's place in the lists of pictures: its format and its file, in one text. Everything that takes the

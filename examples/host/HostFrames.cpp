@@ -1,9 +1,9 @@
 // What the main window does with frames of video.
 
+#include "FrameWriting.h"
 #include "HostWindow.h"
 #include "Pictures.h"
 #include "PictureView.h"
-#include "VideoFrames.h"
 #include "ViewerPanel.h"
 
 #include <ui/docking/Dock.h>
@@ -69,11 +69,19 @@ void HostWindow::saveFrameAs(const ViewerPanel& viewer, const FrameLayout& layou
     if (format.layout != &layout)
         format.matrix = layout.usualMatrix(viewer.picture().height());
     format.layout = &layout;
-    QString problem;
-    if (VideoFrames::write(viewer.view()->gradedPicture(), format, path, &problem))
+    BackgroundJob* const writing = new FrameWriting(viewer.picture(), viewer.view()->grade(), format, path);
+    connect(writing, SIGNAL(finished()), this, SLOT(frameWritten()));
+    writing->start();
+}
+
+void HostWindow::frameWritten()
+{
+    const FrameWriting* const writing = static_cast<FrameWriting*>(sender());
+    if (writing->problem().isEmpty())
         return;
+    const QString file = QDir::toNativeSeparators(writing->path());
     QMessageBox::warning(this, tr("Save Frame"),
-                         tr("\"%1\" cannot be written.\n\n%2").arg(QDir::toNativeSeparators(path), problem));
+                         tr("\"%1\" cannot be written.\n\n%2").arg(file, writing->problem()));
 }
 
 }} // namespace Norvane::Host

@@ -213,6 +213,9 @@ void HostWindow::openPicture(const QString& path)
     const QList<ViewerPanel*> viewers = m_panels.viewers();
     for (ViewerPanel* const viewer : viewers) {
         if (viewer->picturePath() == canonical && Dock::dockForWidget(viewer)) {
+            // What could not be read, or was cancelled, is tried once more.
+            if (viewer->picture().isNull())
+                viewer->openPicture(canonical);
             showPanel(viewer);
             return;
         }

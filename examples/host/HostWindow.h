@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BackgroundJob.h"
 #include "PanelRegistry.h"
 #include "PictureAnalysis.h"
 #include "PictureList.h"
@@ -62,6 +63,7 @@ private Q_SLOTS:
     void openPictures(const QStringList& paths);
     void analysePictures();
     void saveFrame();
+    void frameWritten();
     /// Shows the frame \a path as \a other wherever it is to be seen.
     void reinterpretFrame(const QString& path, const QString& other);
     void chooseLayoutToSave();
@@ -147,9 +149,12 @@ private:
     /// Children of the window.
     ArrangementRecorder* m_recorder;
     ArrangementMenu* m_arrangementMenu = nullptr;
-    PictureList m_pictures;
     UI::DialogProgressManager m_progress;
-    /// Its tasks are the manager's.
+    /// The tasks of what follows are the manager's.
+    struct ThreadsEnd {
+        ~ThreadsEnd() { BackgroundJob::waitForAll(); }
+    } m_threadsEnd;
+    PictureList m_pictures;
     PictureAnalysis m_analysis;
     ScriptInterpreter m_scripts;
     PanelRegistry m_panels;

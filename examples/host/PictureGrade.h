@@ -16,7 +16,7 @@ struct PictureGrade {
     bool isNeutral() const;
 };
 
-/// \a image, which is RGB32 or premultiplied ARGB32, graded; in the same format.
+/// \a image, which has 32 bits a pixel, graded; in the same format.
 QImage gradedImage(const QImage& image, const PictureGrade& grade);
 
 }} // namespace Norvane::Host

@@ -13,12 +13,13 @@
 #include <ui/sliders/Slider.h>
 #include <ui/toolkit/Painting.h>
 
+#include <tests/support/Waiting.h>
+
 #include <QDir>
 #include <QImage>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryFile>
-#include <QtTest>
 
 using namespace Norvane;
 using namespace Norvane::Host;
@@ -110,7 +111,11 @@ void tst_HostPanels::viewerShowsPictureWhenSeen()
     viewer.openPicture(path);
     QCOMPARE(int(changes.size()), 1);
     viewer.resize(400, 300);
+    QVERIFY(viewer.picture().isNull());
     viewer.show();
+    QCOMPARE(viewer.findChild<PictureView*>()->accessibleDescription(), QFileInfo(path).fileName());
+    WAIT_FOR(!viewer.picture().isNull());
+    QCOMPARE(int(changes.size()), 2);
     QVERIFY(QFile::remove(path));
     const QImage shown = UI::grabPixmap(&viewer).toImage();
     QCOMPARE(shown.pixel(shown.width() / 2, shown.height() / 2 - 10), qRgb(10, 20, 30));
@@ -132,6 +137,7 @@ void tst_HostPanels::controlsActOnTheirViewer()
     viewer->resize(400, 300);
     viewer->show();
     viewer->openPicture(first.fileName());
+    WAIT_FOR(!viewer->picture().isNull());
     pictures.addPicture(first.fileName());
     pictures.addPicture(second.fileName());
     controls.setViewer(viewer.data());
@@ -145,6 +151,7 @@ void tst_HostPanels::controlsActOnTheirViewer()
     QCOMPARE(shown.pixel(shown.width() / 2, shown.height() / 2 - 10), qRgb(138, 138, 138));
     QTest::keyClick(sliders[1], Qt::Key_Right);
     QCOMPARE(QFileInfo(viewer->picturePath()), QFileInfo(second.fileName()));
+    WAIT_FOR(!viewer->picture().isNull());
     zoom->setRealValue(10);
     QCOMPARE(viewer->view()->zoom(), 10.0);
     viewer->view()->zoomTo(1);
