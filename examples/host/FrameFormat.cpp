@@ -9,8 +9,6 @@ using namespace Colour;
 
 namespace {
 
-/// QImage counts bytes in an int.
-const int kLongestSide = 32767;
 const int kPaddedTo = 128;
 const char* const kAddressPrefix = "frame:";
 
@@ -92,7 +90,8 @@ bool readSize(const QString& text, int* width, int* height)
         return false;
     *width = sides[0].toInt();
     *height = sides[1].toInt();
-    return *width > 0 && *height > 0 && *width <= kLongestSide && *height <= kLongestSide;
+    const int most = FrameFormat::kLongestSide;
+    return *width > 0 && *height > 0 && *width <= most && *height <= most;
 }
 
 QString readableLayouts()

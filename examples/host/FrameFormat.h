@@ -29,6 +29,9 @@ const QList<FrameLayout>& frameLayouts();
 
 /// What has to be known of a file that holds the samples of a frame and nothing else.
 struct FrameFormat {
+    /// Of width and height. QImage counts bytes in an int.
+    static const int kLongestSide = 32767;
+
     const FrameLayout* layout = nullptr;
     int width = 0;
     int height = 0;

@@ -1,5 +1,6 @@
 // What the main window does with frames of video.
 
+#include "FrameDialog.h"
 #include "FrameWriting.h"
 #include "HostWindow.h"
 #include "Pictures.h"
@@ -11,6 +12,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QSettings>
 
 namespace Norvane { namespace Host {
 
@@ -31,6 +33,17 @@ QString filterOf(const FrameLayout& layout)
 }
 
 } // namespace
+
+void HostWindow::chooseFrame()
+{
+    const QString folderKey = QLatin1String("Folders/Frames");
+    FrameDialog dialog(QSettings().value(folderKey).toString(), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const FrameAddress address = dialog.address();
+    QSettings().setValue(folderKey, QFileInfo(address.path).path());
+    openPicture(address.toString());
+}
 
 void HostWindow::reinterpretFrame(const QString& path, const QString& other)
 {

@@ -46,6 +46,7 @@ void HostWindow::buildFileMenu()
 {
     QMenu* const menu = menuBar()->addMenu(tr("&File"));
     addEntry(menu, tr("&Open Picture..."), SLOT(choosePictures()), tr("Ctrl+O"));
+    addEntry(menu, tr("Open F&rame..."), SLOT(chooseFrame()), tr("Ctrl+Shift+F"));
     m_saveFrameAction = addEntry(menu, tr("Save &Frame..."), SLOT(saveFrame()), tr("Ctrl+Shift+S"));
     m_saveFrameAction->setEnabled(false);
     menu->addSeparator();

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void openPicture(const QString& path);
     void openPictures(const QStringList& paths);
     void analysePictures();
+    void chooseFrame();
     void saveFrame();
     void frameWritten();
     /// Shows the frame \a path as \a other wherever it is to be seen.

@@ -101,6 +101,11 @@ struct Extremes {
 
 } // namespace
 
+bool canRead(const FrameAddress& address, QString* problem)
+{
+    return Samples().open(address, problem);
+}
+
 QImage read(const FrameAddress& address, QString* problem, const WorkProgress& progress)
 {
     Samples samples;

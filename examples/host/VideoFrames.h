@@ -9,6 +9,10 @@
 /// Files that hold the Y'CbCr samples of one frame, as capture cards and converters of video write them.
 namespace Norvane { namespace Host { namespace VideoFrames {
 
+/// Whether the file at \a address is there and has the size of such a frame; if not, \a problem says so in a
+/// sentence.
+bool canRead(const FrameAddress& address, QString* problem);
+
 /// The frame at \a address, decoded; null, with a sentence in \a problem, if that fails. Any thread may read.
 QImage read(const FrameAddress& address, QString* problem, const WorkProgress& progress = workToTheEnd);
 
