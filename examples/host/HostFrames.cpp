@@ -1,6 +1,7 @@
 // What the main window does with frames of video.
 
 #include "FrameDialog.h"
+#include "FrameSaveDialog.h"
 #include "FrameWriting.h"
 #include "HostWindow.h"
 #include "Pictures.h"
@@ -10,7 +11,7 @@
 #include <ui/docking/Dock.h>
 
 #include <QDir>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QSettings>
 
@@ -25,11 +26,6 @@ FrameFormat formatOf(const ViewerPanel& viewer)
     QString problem;
     FrameFormat::parse(FrameAddress::fromString(viewer.picturePath()).format, &format, &problem);
     return format;
-}
-
-QString filterOf(const FrameLayout& layout)
-{
-    return HostWindow::tr("%1 samples (*.%2)").arg(layout.name(), layout.name().toLower());
 }
 
 } // namespace
@@ -60,19 +56,10 @@ void HostWindow::saveFrame()
     const ViewerPanel* const viewer = focusedViewer();
     if (!viewer || viewer->picture().isNull())
         return;
-    // The layout is chosen as the type of the file.
-    QStringList filters;
-    for (const FrameLayout& layout : frameLayouts())
-        filters.append(filterOf(layout));
-    QFileDialog dialog(this, tr("Save Frame"), QFileInfo(Pictures::filePath(viewer->picturePath())).path());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters(filters);
-    if (const FrameLayout* const layout = formatOf(*viewer).layout)
-        dialog.selectNameFilter(filterOf(*layout));
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    const FrameLayout& layout = frameLayouts()[int(filters.indexOf(dialog.selectedNameFilter()))];
-    saveFrameAs(*viewer, layout, dialog.selectedFiles().first());
+    const QString folder = QFileInfo(Pictures::filePath(viewer->picturePath())).path();
+    FrameSaveDialog dialog(folder, formatOf(*viewer).layout, this);
+    if (dialog.exec() == QDialog::Accepted)
+        saveFrameAs(*viewer, dialog.frameLayout(), dialog.selectedFiles().first());
 }
 
 void HostWindow::saveFrameAs(const ViewerPanel& viewer, const FrameLayout& layout, const QString& path)

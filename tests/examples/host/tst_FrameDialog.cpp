@@ -1,10 +1,14 @@
 #include <examples/host/FrameDialog.h>
+#include <examples/host/FrameSaveDialog.h>
 
 #include <ui/widgets/FilenameField.h>
+
+#include <tests/support/MessageBoxCloser.h>
 
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryFile>
@@ -20,6 +24,8 @@ private Q_SLOTS:
     void fileSuggestsItsFormat_data();
     void fileSuggestsItsFormat();
     void problemIsToldUntilItIsMended();
+    void savedFileHasTheSuffixOfItsLayout();
+    void otherFilesAreNotReplacedUnasked();
 };
 
 namespace {
@@ -89,6 +95,35 @@ void tst_FrameDialog::problemIsToldUntilItIsMended()
     QVERIFY(open->isEnabled());
     matrix->setCurrentIndex(1);
     QCOMPARE(dialog.address().format, QString::fromLatin1("AYCbCr8:8x2:Rec 709"));
+}
+
+void tst_FrameDialog::savedFileHasTheSuffixOfItsLayout()
+{
+    FrameSaveDialog dialog(QDir::tempPath(), &frameLayouts()[6], nullptr);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.selectFile(QLatin1String("frame"));
+    QCOMPARE(QFileInfo(dialog.selectedFiles().first()).fileName(), QString::fromLatin1("frame.v210"));
+    dialog.show();
+    QTest::keyClicks(dialog.findChild<QComboBox*>(QLatin1String("fileTypeCombo")), QLatin1String("AYCbCr16"));
+    QCOMPARE(dialog.frameLayout().name(), QString::fromLatin1("AYCbCr16"));
+    dialog.selectFile(QLatin1String("frame"));
+    QCOMPARE(QFileInfo(dialog.selectedFiles().first()).fileName(), QString::fromLatin1("frame.aycbcr16"));
+}
+
+void tst_FrameDialog::otherFilesAreNotReplacedUnasked()
+{
+    const EmptyFrame file(QLatin1String("v210"), 1);
+    const QFileInfo info(file.path());
+    FrameSaveDialog dialog(info.path(), &frameLayouts()[6], nullptr);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.show();
+    // Its suffix is added.
+    dialog.findChild<QLineEdit*>(QLatin1String("fileNameEdit"))->setText(info.completeBaseName());
+    NorvaneTest::MessageBoxCloser boxes;
+    QMetaObject::invokeMethod(&dialog, "accept");
+    QCOMPARE(boxes.count(), 1);
+    QVERIFY(boxes.lastText().contains(info.fileName()));
+    QVERIFY(dialog.isVisible());
 }
 
 QTEST_MAIN(tst_FrameDialog)
