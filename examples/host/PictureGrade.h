@@ -14,6 +14,8 @@ struct PictureGrade {
     bool operator==(const PictureGrade& other) const;
     /// Whether it changes nothing.
     bool isNeutral() const;
+    /// Whether it can be computed: no factor is negative, and no number is beyond all that is to be seen.
+    bool isPossible() const;
 };
 
 /// \a image, which has 32 bits a pixel, graded; in the same format.

@@ -108,6 +108,7 @@ QString ViewerPanel::layoutState() const
     state.fitted = m_view->isFitted();
     state.zoom = m_view->zoom();
     state.center = m_view->center();
+    state.grade = m_view->grade();
     state.path = m_path;
     return state.toString();
 }
@@ -119,6 +120,7 @@ void ViewerPanel::setLayoutState(const QString& text)
         m_view->fitToView();
     else
         m_view->setZoom(state.zoom, state.center);
+    m_view->setGrade(state.grade);
     if (state.path != m_path)
         setPicturePath(state.path);
 }
