@@ -16,6 +16,7 @@ target_include_directories(core PUBLIC
 target_compile_definitions(core PRIVATE NORVANE_CORE_BUILD)
 target_link_libraries(core PUBLIC norvane_qt)
 norvane_warnings(core)
+norvane_add_translations(core ${PROJECT_SOURCE_DIR}/translations/norvane-core_de.ts)
 
 # The same objects, for tests of classes that the shared library does not export.
 add_library(core_internals INTERFACE)

@@ -39,6 +39,7 @@ function(norvane_test_environment name)
     endif()
     set(environment
         "QT_MESSAGE_PATTERN=%{if-warning}Qt warning: %{endif}%{if-critical}Qt warning: %{endif}%{message}"
+        "LC_ALL=C.UTF-8"
         "XDG_RUNTIME_DIR=${NORVANE_TEST_RUNTIME_DIR}"
         "ASAN_OPTIONS=detect_stack_use_after_return=1"
         "LSAN_OPTIONS=suppressions=${support}/lsan.supp:print_suppressions=0"

@@ -29,6 +29,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
             line.layoutPath = argument.mid(layoutPrefix.size());
         } else if (argument == QLatin1String("--layout") && i + 1 < arguments.size()) {
             line.layoutPath = arguments[++i];
+        } else if (argument == QLatin1String("--language") && i + 1 < arguments.size()) {
+            line.language = arguments[++i];
         } else if (argument == QLatin1String("--frame") && i + 2 < arguments.size()) {
             FrameAddress address;
             address.format = arguments[++i];
@@ -37,6 +39,9 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         } else if (argument == QLatin1String("--frame")) {
             line.problem =
                 QCoreApplication::translate("CommandLine", "--frame needs a layout with a size, and a file.");
+            return line;
+        } else if (argument == QLatin1String("--language")) {
+            line.problem = QCoreApplication::translate("CommandLine", "--language needs a code, such as de.");
             return line;
         } else if (argument == QLatin1String("--layout")) {
             line.problem = QCoreApplication::translate("CommandLine", "--layout needs a file.");
@@ -62,6 +67,9 @@ QString CommandLine::helpText()
                        "                 on quitting, instead of that of the last session\n"
                        "  --fresh        start with the default arrangement\n"
                        "  --dark         use the dark palette\n"
+                       "  --language CODE\n"
+                       "                 show all texts in this language, such as de or en,\n"
+                       "                 instead of the user's\n"
                        "  -h, --help     show this text\n"
                        "  -v, --version  show the version\n");
 }

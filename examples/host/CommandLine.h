@@ -11,6 +11,8 @@ struct CommandLine {
     QStringList pictures;
     /// Empty: the file of the last quit.
     QString layoutPath;
+    /// The code of a language that texts are to be in; empty: the user's.
+    QString language;
     bool fresh = false;
     bool dark = false;
     bool help = false;

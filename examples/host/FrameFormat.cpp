@@ -59,10 +59,9 @@ QList<FrameLayout> createLayouts()
     return layouts;
 }
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("FrameFormat", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(FrameFormat)
+};
 
 const FrameLayout* findLayout(const QString& name)
 {
@@ -152,21 +151,21 @@ bool FrameFormat::parse(const QString& text, FrameFormat* format, QString* probl
 {
     const QStringList parts = text.split(QLatin1Char(':'));
     if (parts.size() < 2 || parts.size() > 3 || !readSize(parts[1], &format->width, &format->height)) {
-        *problem = tr("\"%1\" is not a layout and a size, such as v210:1920x1080.").arg(text);
+        *problem = Texts::tr("\"%1\" is not a layout and a size, such as v210:1920x1080.").arg(text);
         return false;
     }
     format->layout = findLayout(parts[0]);
     if (!format->layout) {
-        *problem = tr("There is no layout \"%1\". There are %2.").arg(parts[0], readableLayouts());
+        *problem = Texts::tr("There is no layout \"%1\". There are %2.").arg(parts[0], readableLayouts());
         return false;
     }
     if (!format->layout->hasDecoder()) {
-        *problem = tr("Frames in %1 can be written, but not read.").arg(format->layout->name());
+        *problem = Texts::tr("Frames in %1 can be written, but not read.").arg(format->layout->name());
         return false;
     }
     format->matrix = format->layout->usualMatrix(format->height);
     if (parts.size() == 3 && !findMatrix(parts[2], &format->matrix)) {
-        *problem = tr("There is no matrix \"%1\".").arg(parts[2]);
+        *problem = Texts::tr("There is no matrix \"%1\".").arg(parts[2]);
         return false;
     }
     return true;

@@ -20,10 +20,9 @@ namespace {
 
 const int kProblemsShown = 5;
 
-QString translate(const char* text)
-{
-    return QCoreApplication::translate("LayoutStore", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(LayoutStore)
+};
 
 QString closedNotesPath(const QString& layoutPath)
 {
@@ -52,7 +51,7 @@ QString problemsOf(const QByteArray& layout)
     QStringList lines;
     const QList<UI::LayoutInspector::Problem>& problems = inspector.problems();
     for (int i = 0; i < problems.size() && i < kProblemsShown; ++i) {
-        lines.append(translate("Line %1, column %2: %3")
+        lines.append(Texts::tr("Line %1, column %2: %3")
                          .arg(problems[i].line)
                          .arg(problems[i].column)
                          .arg(problems[i].reason));

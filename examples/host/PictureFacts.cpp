@@ -14,14 +14,13 @@ namespace {
 
 const int kSamples = 256;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("PictureFacts", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(PictureFacts)
+};
 
 QString colourText(int red, int green, int blue)
 {
-    return tr("R %1  G %2  B %3").arg(red).arg(green).arg(blue);
+    return Texts::tr("R %1  G %2  B %3").arg(red).arg(green).arg(blue);
 }
 
 template <typename Visit>
@@ -41,18 +40,20 @@ Facts fileFacts(const QString& path)
 {
     const QFileInfo file(Pictures::filePath(path));
     Facts facts;
-    facts << qMakePair(tr("Name"), file.fileName())
-          << qMakePair(tr("Folder"), QDir::toNativeSeparators(file.absolutePath()))
-          << qMakePair(tr("Size"), tr("%1 kB").arg((file.size() + 999) / 1000));
+    facts << qMakePair(Texts::tr("Name"), file.fileName())
+          << qMakePair(Texts::tr("Folder"), QDir::toNativeSeparators(file.absolutePath()))
+          << qMakePair(Texts::tr("Size"), Texts::tr("%1 kB").arg((file.size() + 999) / 1000));
     if (file.lastModified().isValid())
-        facts << qMakePair(tr("Changed"), QLocale().toString(file.lastModified(), QLocale::ShortFormat));
+        facts << qMakePair(Texts::tr("Changed"),
+                           QLocale().toString(file.lastModified(), QLocale::ShortFormat));
     return facts;
 }
 
 Facts pictureFacts(const QImage& picture)
 {
-    return Facts() << qMakePair(tr("Size"), tr("%1 x %2").arg(picture.width()).arg(picture.height()))
-                   << qMakePair(tr("Depth"), tr("%1 bits").arg(picture.depth()));
+    return Facts() << qMakePair(Texts::tr("Size"),
+                                Texts::tr("%1 x %2").arg(picture.width()).arg(picture.height()))
+                   << qMakePair(Texts::tr("Depth"), Texts::tr("%1 bits").arg(picture.depth()));
 }
 
 Facts colourFacts(const QImage& picture)
@@ -74,10 +75,10 @@ Facts colourFacts(const QImage& picture)
     if (count == 0)
         return Facts();
     const auto textOf = [](QRgb pixel) { return colourText(qRed(pixel), qGreen(pixel), qBlue(pixel)); };
-    return Facts() << qMakePair(tr("Mean"),
+    return Facts() << qMakePair(Texts::tr("Mean"),
                                 colourText(qRound(red / count), qRound(green / count), qRound(blue / count)))
-                   << qMakePair(tr("Darkest"), textOf(darkest))
-                   << qMakePair(tr("Lightest"), textOf(lightest));
+                   << qMakePair(Texts::tr("Darkest"), textOf(darkest))
+                   << qMakePair(Texts::tr("Lightest"), textOf(lightest));
 }
 
 Facts transparencyFacts(const QImage& picture)
@@ -90,7 +91,8 @@ Facts transparencyFacts(const QImage& picture)
     });
     if (transparent == 0)
         return Facts();
-    return Facts() << qMakePair(tr("Transparent"), tr("%1%").arg(100.0 * transparent / count, 0, 'f', 1));
+    return Facts() << qMakePair(Texts::tr("Transparent"),
+                                Texts::tr("%1%").arg(100.0 * transparent / count, 0, 'f', 1));
 }
 
 }} // namespace Norvane::Host

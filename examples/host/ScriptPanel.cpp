@@ -34,9 +34,9 @@ struct Example {
 };
 
 const Example kExamples[] = {
-    {"task.py", QT_TRANSLATE_NOOP("ScriptPanel", "A Task with Progress")},
-    {"pictures.py", QT_TRANSLATE_NOOP("ScriptPanel", "A Thread That Asks for the Pictures")},
-    {"exception.py", QT_TRANSLATE_NOOP("ScriptPanel", "An Exception That Comes Back")},
+    {"task.py", QT_TRANSLATE_NOOP("Norvane::Host::ScriptPanel", "A Task with Progress")},
+    {"pictures.py", QT_TRANSLATE_NOOP("Norvane::Host::ScriptPanel", "A Thread That Asks for the Pictures")},
+    {"exception.py", QT_TRANSLATE_NOOP("Norvane::Host::ScriptPanel", "An Exception That Comes Back")},
 };
 
 QFont fixedFont()

@@ -18,10 +18,9 @@ namespace {
 
 const int kRowsForFacts = 256;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("VideoFrames", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(VideoFrames)
+};
 
 /// The samples of a file, row by row.
 class Samples
@@ -48,13 +47,13 @@ bool Samples::open(const FrameAddress& address, QString* problem)
         return false;
     m_file.setFileName(address.path);
     if (!m_file.open(QIODevice::ReadOnly)) {
-        *problem = tr("The file cannot be read: %1.").arg(m_file.errorString());
+        *problem = Texts::tr("The file cannot be read: %1.").arg(m_file.errorString());
         return false;
     }
     m_distance = format.rowDistance(m_file.size());
     if (m_distance > 0)
         return true;
-    *problem = tr("The file has %1 bytes; a frame of %2 x %3 pixels in %4 has %5.")
+    *problem = Texts::tr("The file has %1 bytes; a frame of %2 x %3 pixels in %4 has %5.")
                    .arg(m_file.size())
                    .arg(format.width)
                    .arg(format.height)
@@ -83,7 +82,7 @@ QString codes(float value, const FrameFormat& format)
 
 QString span(float least, float most, const FrameFormat& format)
 {
-    return tr("%1 to %2").arg(codes(least, format), codes(most, format));
+    return Texts::tr("%1 to %2").arg(codes(least, format), codes(most, format));
 }
 
 /// The extremes of one kind of sample.
@@ -115,14 +114,14 @@ QImage read(const FrameAddress& address, QString* problem, const WorkProgress& p
     const QImage::Format pixels = format.layout->hasAlpha() ? QImage::Format_ARGB32 : QImage::Format_RGB32;
     QImage picture(format.width, format.height, pixels);
     if (picture.isNull()) {
-        *problem = tr("There is not enough memory for the frame.");
+        *problem = Texts::tr("There is not enough memory for the frame.");
         return picture;
     }
     std::vector<float> rgba(std::size_t(format.width + 1) * 4);
     for (int y = 0; y < format.height; ++y) {
         const void* const row = samples.row(y);
         if (!row) {
-            *problem = tr("The file ends too early.");
+            *problem = Texts::tr("The file ends too early.");
             return QImage();
         }
         format.layout->rows.decode(row, &rgba[3], &rgba[0], &rgba[1], &rgba[2], 4, samples.count(),
@@ -194,12 +193,12 @@ Facts rangeFacts(const FrameAddress& address)
     legalRange(format.layout->range, legal);
     const float lumaScale = format.layout->lumaCodes();
     const float chromaScale = format.layout->chromaCodes();
-    return Facts() << qMakePair(tr("Layout"), format.layout->name())
-                   << qMakePair(tr("Legal luma"), span(legal[0], legal[0] + legal[1], format))
-                   << qMakePair(tr("Luma here"),
+    return Facts() << qMakePair(Texts::tr("Layout"), format.layout->name())
+                   << qMakePair(Texts::tr("Legal luma"), span(legal[0], legal[0] + legal[1], format))
+                   << qMakePair(Texts::tr("Luma here"),
                                 span(lumaEnds.least * lumaScale, lumaEnds.most * lumaScale, format))
-                   << qMakePair(tr("Legal chroma"), span(legal[2], legal[2] + legal[3], format))
-                   << qMakePair(tr("Chroma here"),
+                   << qMakePair(Texts::tr("Legal chroma"), span(legal[2], legal[2] + legal[3], format))
+                   << qMakePair(Texts::tr("Chroma here"),
                                 span(chromaEnds.least * chromaScale, chromaEnds.most * chromaScale, format));
 }
 

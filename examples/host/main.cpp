@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 #include "HostWindow.h"
+#include "Language.h"
 #include "Palettes.h"
 #include "ScriptInterpreter.h"
 
@@ -19,9 +20,26 @@ using namespace Norvane::Host;
 
 namespace {
 
-/// The questions that need no desktop to be answered.
-bool answer(const CommandLine& commandLine)
+/// The command line in the language that it asks for itself: what is wrong with it is told in that one, too.
+CommandLine parsedCommandLine()
 {
+    const QStringList arguments = QCoreApplication::arguments();
+    CommandLine commandLine = CommandLine::parse(arguments);
+    const bool isKnown = Language::choose(commandLine.language);
+    commandLine = CommandLine::parse(arguments);
+    if (!isKnown && commandLine.problem.isEmpty()) {
+        commandLine.problem =
+            QCoreApplication::translate("CommandLine", "There is no language \"%1\". There are %2.")
+                .arg(commandLine.language, Language::available().join(QLatin1String(", ")));
+    }
+    return commandLine;
+}
+
+/// The questions that need no desktop to be answered.
+bool answer(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const CommandLine commandLine = parsedCommandLine();
     QTextStream out(stdout);
     if (commandLine.help)
         out << CommandLine::helpText();
@@ -30,19 +48,11 @@ bool answer(const CommandLine& commandLine)
     return commandLine.help || commandLine.version;
 }
 
-QStringList listOf(int argc, char** argv)
-{
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    return arguments;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (answer(CommandLine::parse(listOf(argc, argv))))
+    if (answer(argc, argv))
         return 0;
 
     UI::enableHighDensity();
@@ -54,7 +64,7 @@ int main(int argc, char** argv)
     UI::AppSettings::SetName("norvane-host");
 
     // By now without the arguments that are Qt's own.
-    const CommandLine commandLine = CommandLine::parse(QApplication::arguments());
+    const CommandLine commandLine = parsedCommandLine();
     if (!commandLine.problem.isEmpty()) {
         QTextStream(stderr) << "norvane-host: " << commandLine.problem << '\n';
         return 2;

@@ -1,11 +1,9 @@
-// The panels of a pane: adding, removing, choosing and closing them.
+// The panels of a pane: adding, moving and removing them.
 
 #include <ui/docking/DockPlaceHolder.h>
 #include <ui/docking/DockPrivate.h>
 #include <ui/docking/DockTabBar.h>
-#include <ui/toolkit/Closing.h>
 
-#include <QCloseEvent>
 #include <QIcon>
 #include <QLayout>
 #include <QStackedWidget>
@@ -74,20 +72,6 @@ void Dock::Private::dropTab(int index)
     const bool wasBlocked = tabBar->blockSignals(true);
     tabBar->removeTab(index);
     tabBar->blockSignals(wasBlocked);
-}
-
-void Dock::Private::chooseTab(int index)
-{
-    const bool wasBlocked = tabBar->blockSignals(true);
-    tabBar->setCurrentIndex(index);
-    tabBar->blockSignals(wasBlocked);
-    unsettled = true;
-}
-
-void Dock::Private::settle()
-{
-    if (unsettled)
-        q->showTab(tabBar->currentIndex());
 }
 
 void Dock::Private::take(QWidget* widget)
@@ -270,128 +254,6 @@ void Dock::removeTab(int tab)
     // A panel that dies is null by now; one that the host simply gave another parent is lost like any other.
     if (self && panel)
         d->reportRemoved(panel);
-}
-
-void Dock::showTab(int index)
-{
-    d->unsettled = false;
-    if (index != d->stack->currentIndex()) {
-        d->previousTab = d->stack->currentIndex();
-        d->stack->setCurrentIndex(index);
-    }
-    QWidget* const panel = currentWidget();
-    setFocusProxy(panel);
-    setAccessibleName(panel ? panel->windowTitle() : QString());
-    d->reportActivated(panel);
-}
-
-void Dock::setCurrentWidget(QWidget* widget)
-{
-    const int index = widget ? d->stack->indexOf(widget) : d->previousTab;
-    if (index != -1)
-        setCurrentTab(index);
-}
-
-void Dock::setCurrentTab(int index)
-{
-    const QPointer<Dock> self(this);
-    const QPointer<QWidget> panel(widget(index));
-    if (!panel)
-        return;
-    d->tabBar->setCurrentIndex(index);
-    if (self && panel && currentWidget() == panel)
-        d->reportActivated(panel);
-}
-
-void Dock::Private::stepTab(int step)
-{
-    const int panelCount = q->count();
-    if (panelCount > 0)
-        q->setCurrentTab((q->currentTab() + step + panelCount) % panelCount);
-}
-
-void Dock::cycleCurrentWidget()
-{
-    d->stepTab(1);
-}
-
-void Dock::nextTab()
-{
-    d->stepTab(1);
-}
-
-void Dock::prevTab()
-{
-    d->stepTab(-1);
-}
-
-void Dock::closeTab(int index)
-{
-    const QPointer<QWidget> panel(widget(index));
-    if (!panel)
-        return;
-    const QPointer<Dock> self(this);
-    const bool hadFocus = d->containsFocus();
-    const bool closed = closeWidget(panel);
-    if (!self || !closed)
-        return;
-    // A panel with Qt::WA_DeleteOnClose has lost that attribute by now and dies soon; until then it must not
-    // count as the panel that keeps a window open.
-    if (panel)
-        removeWidget(panel);
-    if (!self)
-        return;
-    if (hadFocus)
-        (currentWidget() ? currentWidget() : this)->setFocus(Qt::OtherFocusReason);
-    if (self && d->parentCanBeClosed())
-        dockWindow()->close();
-}
-
-void Dock::closeActiveTab()
-{
-    closeTab(currentTab());
-}
-
-void Dock::closeInactiveTabs()
-{
-    const QPointer<Dock> self(this);
-    for (int i = count() - 1; self && i >= 0; --i) {
-        if (i < count() && i != currentTab())
-            closeTab(i);
-    }
-}
-
-void Dock::closeEvent(QCloseEvent* event)
-{
-    const QPointer<Dock> self(this);
-    bool refused = false;
-    const QList<QPointer<QWidget>> panels = d->panels;
-    for (int i = static_cast<int>(panels.size()) - 1; i >= 0; --i) {
-        const QPointer<QWidget>& panel = panels[i];
-        if (!panel || d->stack->indexOf(panel) < 0)
-            continue;
-        const bool closed = closeWidget(panel);
-        if (!self)
-            return;
-        if (!closed) {
-            refused = true;
-        } else if (panel) {
-            d->release(panel);
-            d->reportRemoved(panel);
-        }
-        if (!self)
-            return;
-    }
-    d->settle();
-    if (!self)
-        return;
-    if (refused) {
-        event->ignore();
-        return;
-    }
-    if (d->parentCanBeClosed())
-        dockWindow()->close();
-    event->accept();
 }
 
 void Dock::updateTitles()

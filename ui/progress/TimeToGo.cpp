@@ -10,16 +10,14 @@ namespace Norvane { namespace UI {
 
 namespace {
 
-QString translate(const char* text)
-{
-    return QCoreApplication::translate("ProgressWidget", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ProgressWidget)
+};
 
 QString minutesAndSeconds(int minutes, int seconds)
 {
-    const QString text =
-        minutes == 1 ? translate(QT_TRANSLATE_NOOP("ProgressWidget", "Time to go: %1 minute %2 seconds."))
-                     : translate(QT_TRANSLATE_NOOP("ProgressWidget", "Time to go: %1 minutes %2 seconds."));
+    const QString text = minutes == 1 ? Texts::tr("Time to go: %1 minute %2 seconds.")
+                                      : Texts::tr("Time to go: %1 minutes %2 seconds.");
     return text.arg(minutes).arg(seconds);
 }
 
@@ -30,7 +28,7 @@ QString hoursAndMinutes(int hours, int minutes)
          QT_TRANSLATE_NOOP("ProgressWidget", "Time to go: %1 hours %2 minute.")},
         {QT_TRANSLATE_NOOP("ProgressWidget", "Time to go: %1 hour %2 minutes."),
          QT_TRANSLATE_NOOP("ProgressWidget", "Time to go: %1 hour %2 minute.")}};
-    return translate(texts[hours == 1][minutes == 1]).arg(hours).arg(minutes);
+    return Texts::tr(texts[hours == 1][minutes == 1]).arg(hours).arg(minutes);
 }
 
 } // namespace
@@ -47,13 +45,13 @@ int secondsToGo(int elapsed, int progress, int maximum)
 QString timeToGoText(int seconds)
 {
     if (seconds < 0)
-        return translate("Time to go: ?");
+        return Texts::tr("Time to go: ?");
     if (seconds < 60)
-        return translate("Time to go: %1 seconds.").arg(seconds);
+        return Texts::tr("Time to go: %1 seconds.").arg(seconds);
     if (seconds < 180)
         return minutesAndSeconds(seconds / 60, seconds % 60);
     if (seconds < 3600)
-        return translate("Time to go: %1 minutes.").arg(seconds / 60);
+        return Texts::tr("Time to go: %1 minutes.").arg(seconds / 60);
     return hoursAndMinutes(seconds / 3600, seconds / 60 % 60);
 }
 
@@ -62,12 +60,12 @@ QString timeToGoText(const TaskPrivate& task)
     if (task.error)
         return QString();
     if (task.cancelled)
-        return translate("Cancelling");
+        return Texts::tr("Cancelling");
     const int progress = task.progress;
     if (progress < 0)
-        return translate("Time to go: Awaiting Task");
+        return Texts::tr("Time to go: Awaiting Task");
     if (progress == 0)
-        return translate("Time to go: Calculating");
+        return Texts::tr("Time to go: Calculating");
     const int elapsed = task.startTime.secsTo(QTime::currentTime());
     return timeToGoText(secondsToGo(elapsed, progress, task.maximum));
 }

@@ -126,25 +126,30 @@ class Host:
     def __init__(self, program, arguments, log):
         self.process = subprocess.Popen([program, *arguments], stderr=log)
         self.window = wait_for(lambda: visible_windows("norvane-host$"), "the main window")[-1]
-        self.stable_client()
+        self.wait_until_at_rest()
         xdotool("windowactivate", "--sync", self.window)
 
     def client(self):
         facts = dict(line.split("=") for line in xdotool("getwindowgeometry", "--shell", self.window).split())
         return tuple(int(facts[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
-    def stable_client(self):
-        """The geometry once the window manager has nothing left to do: the same for a second."""
+    def cpu_time(self):
+        with open(f"/proc/{self.process.pid}/stat", encoding="utf-8") as file:
+            # What follows the name, which may have anything in it.
+            fields = file.read().rpartition(")")[2].split()
+        return int(fields[11]) + int(fields[12])
+
+    def wait_until_at_rest(self):
+        """The window manager and the host have nothing left to do: for a second nothing moves and nobody works."""
         state = {"last": None, "since": time.monotonic()}
 
-        def is_stable():
-            now = self.client()
+        def is_at_rest():
+            now = self.client(), self.cpu_time()
             if now != state["last"]:
                 state.update(last=now, since=time.monotonic())
             return time.monotonic() - state["since"] > 1.0
 
-        wait_for(is_stable, "a main window at rest")
-        return state["last"]
+        wait_for(is_at_rest, "a main window at rest")
 
     def move(self, x, y):
         xdotool("mousemove", "--window", self.window, int(x), int(y))

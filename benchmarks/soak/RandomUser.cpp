@@ -1,0 +1,284 @@
+#include <benchmarks/soak/RandomUser.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QWidget>
+
+namespace Norvane { namespace Benchmarks {
+
+namespace {
+
+/// Between two looks at what to do.
+const int kTick = 30;
+/// How long a dialog may stay, in ticks.
+const int kDialogTicks = 12;
+/// Idle threads of a pool end after half a minute.
+const int kRest = 40000;
+
+QString text(int number)
+{
+    return QString::number(number);
+}
+
+QStringList words(const char* sentence)
+{
+    return QString::fromLatin1(sentence).split(QLatin1Char(' '));
+}
+
+/// Entries of menus and of the menus in them, without the one that ends the program.
+QList<QAction*> entriesOf(const QList<QAction*>& actions)
+{
+    QList<QAction*> entries;
+    for (QAction* const action : actions) {
+        if (action->menu())
+            entries += entriesOf(action->menu()->actions());
+        else if (action->isEnabled() && !action->isSeparator() &&
+                 !action->text().contains(QLatin1String("Quit")))
+            entries.append(action);
+    }
+    return entries;
+}
+
+} // namespace
+
+RandomUser::RandomUser(unsigned seed, QObject* parent)
+    : QObject(parent)
+    , m_random(seed)
+{
+    m_tool.setProcessChannelMode(QProcess::ForwardedChannels);
+    connect(&m_ticks, SIGNAL(timeout()), this, SLOT(tick()));
+    m_ticks.start(kTick);
+}
+
+void RandomUser::use(int milliseconds)
+{
+    m_phase = kUse;
+    m_duration = milliseconds;
+    m_time.start();
+}
+
+void RandomUser::rest(const QString& path)
+{
+    m_phase = kRest;
+    m_duration = ::Norvane::Benchmarks::kRest;
+    m_time.start();
+    m_planned.clear();
+    for (int i = 0; i < 4; ++i)
+        m_planned.append(words("key Escape"));
+    m_planned.append(words("key ctrl+shift+o"));
+    m_planned.append(words("sleep 1 type --delay 5") << path);
+    m_planned.append(words("key Return"));
+}
+
+// Comes in the event loops of menus and dialogs, too.
+void RandomUser::tick()
+{
+    if (m_phase == kIdle || isToolBusy())
+        return;
+    if (!m_planned.isEmpty()) {
+        m_tool.start(QLatin1String("xdotool"), m_planned.takeFirst());
+    } else if (m_time.elapsed() > m_duration) {
+        m_phase = kIdle;
+        Q_EMIT finished();
+    } else if (m_phase == kUse && !dismissDialog()) {
+        doSomething();
+    }
+}
+
+bool RandomUser::dismissDialog()
+{
+    if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget()) {
+        m_dialogAge = 0;
+        return false;
+    }
+    if (++m_dialogAge > kDialogTicks)
+        m_planned.append(words("key Escape"));
+    return true;
+}
+
+void RandomUser::doSomething()
+{
+    struct Deed {
+        const char* name;
+        int weight;
+        Gesture (RandomUser::*make)();
+    };
+    static const Deed deeds[] = {
+        {"drag a tab", 8, &RandomUser::dragTab},
+        {"press a title button", 3, &RandomUser::pressTitleButton},
+        {"choose from a menu", 6, &RandomUser::chooseFromMenu},
+        {"grade", 8, &RandomUser::grade},
+        {"look around", 4, &RandomUser::lookAround},
+        {"press keys", 6, &RandomUser::pressKeys},
+        {"type", 2, &RandomUser::typeText},
+        {"run a script", 2, &RandomUser::runScript},
+        {"meddle with tasks", 4, &RandomUser::meddleWithTasks},
+        {"resize a window", 1, &RandomUser::resizeWindow},
+    };
+    int sum = 0;
+    for (const Deed& deed : deeds)
+        sum += deed.weight;
+    int choice = upTo(sum);
+    const Deed* deed = deeds;
+    while (choice >= deed->weight)
+        choice -= (deed++)->weight;
+    const Gesture gesture = (this->*deed->make)();
+    if (gesture.isEmpty())
+        return;
+    ++m_deeds[QString::fromLatin1(deed->name)];
+    m_planned.append(gesture);
+}
+
+RandomUser::Gesture RandomUser::dragTab()
+{
+    const QWidget* const tabs = anyVisible(words("Norvane::UI::DockTabBar"));
+    if (!tabs)
+        return Gesture();
+    const QWidget* const pane = anyVisible(words("Norvane::UI::Dock"));
+    return drag(pointIn(tabs), pane && upTo(4) ? pointIn(pane) : pointOnDesktop());
+}
+
+RandomUser::Gesture RandomUser::pressTitleButton()
+{
+    const QWidget* const button = anyVisible(words("Norvane::UI::TitleBarButton"));
+    return button ? click(pointIn(button)) : Gesture();
+}
+
+// Not by the mouse: half of the menus would only be opened and left.
+RandomUser::Gesture RandomUser::chooseFromMenu()
+{
+    const QMainWindow* const window = qobject_cast<QMainWindow*>(anyVisible(words("QMainWindow")));
+    const QList<QAction*> entries = window ? entriesOf(window->menuBar()->actions()) : QList<QAction*>();
+    if (entries.isEmpty())
+        return Gesture();
+    QMetaObject::invokeMethod(entries[upTo(int(entries.size()))], "trigger", Qt::QueuedConnection);
+    return words("sleep 0.05");
+}
+
+RandomUser::Gesture RandomUser::grade()
+{
+    const QWidget* const control =
+        anyVisible(words("Norvane::UI::ColorWheel Norvane::UI::ColorSlider Norvane::UI::Slider"));
+    return control ? drag(pointIn(control), pointIn(control)) : Gesture();
+}
+
+RandomUser::Gesture RandomUser::lookAround()
+{
+    const QWidget* const picture = anyVisible(words("Norvane::Host::PictureView"));
+    if (!picture)
+        return Gesture();
+    const QPoint point = pointIn(picture);
+    if (upTo(2))
+        return drag(point, pointIn(picture));
+    return words("mousemove") << text(point.x()) << text(point.y()) << words("click --repeat 3")
+                              << (upTo(2) ? QLatin1String("4") : QLatin1String("5"));
+}
+
+RandomUser::Gesture RandomUser::pressKeys()
+{
+    const QStringList keys =
+        words("ctrl+1 ctrl+2 ctrl+3 ctrl+alt+z ctrl+alt+z ctrl+alt+shift+z ctrl+shift+a Tab Escape "
+              "plus minus 0 f Left Right Up Down");
+    return words("key") << keys[upTo(int(keys.size()))];
+}
+
+RandomUser::Gesture RandomUser::typeText()
+{
+    const QLineEdit* const line = qobject_cast<QLineEdit*>(anyVisible(words("QLineEdit")));
+    if (!line)
+        return Gesture();
+    const QStringList texts = words("City e .png /tmp nothing");
+    return click(pointIn(line)) << words("key ctrl+a type --delay 5") << texts[upTo(int(texts.size()))];
+}
+
+RandomUser::Gesture RandomUser::runScript()
+{
+    const QWidget* const panel = anyVisible(words("Norvane::Host::ScriptPanel"));
+    const QLineEdit* const prompt = panel ? panel->findChild<QLineEdit*>() : nullptr;
+    if (!prompt)
+        return Gesture();
+    static const char* const lines[] = {"sum(range(100000))", "norvane.pictures()", "raise ValueError(1)",
+                                        "import threading; threading.Thread(target=norvane.pictures).start()",
+                                        "t = norvane.ProgressTask('Soak'); t.cancel(); del t"};
+    return click(pointIn(prompt)) << words("key ctrl+a type --delay 5") << QString::fromLatin1(lines[upTo(5)])
+                                  << words("key Return");
+}
+
+// Pauses, resumes, cancels and clears, whichever button it meets.
+RandomUser::Gesture RandomUser::meddleWithTasks()
+{
+    const QWidget* const dialog = anyVisible(words("Norvane::UI::ProgressDialog"));
+    const QList<QAbstractButton*> buttons =
+        dialog ? dialog->findChildren<QAbstractButton*>() : QList<QAbstractButton*>();
+    if (buttons.isEmpty())
+        return Gesture();
+    const QAbstractButton* const button = buttons[upTo(int(buttons.size()))];
+    return button->isVisible() ? click(pointIn(button)) : Gesture();
+}
+
+RandomUser::Gesture RandomUser::resizeWindow()
+{
+    if (QWidget* const window = anyVisible(words("QMainWindow Norvane::UI::DockWindow")))
+        window->window()->resize(400 + upTo(800), 300 + upTo(600));
+    return words("sleep 0.1");
+}
+
+int RandomUser::upTo(int limit)
+{
+    return std::uniform_int_distribution<int>(0, limit - 1)(m_random);
+}
+
+double RandomUser::fraction()
+{
+    return std::uniform_real_distribution<double>(0, 1)(m_random);
+}
+
+QPoint RandomUser::pointIn(const QWidget* widget)
+{
+    const QPoint point(int(fraction() * widget->width()), int(fraction() * widget->height()));
+    return widget->mapToGlobal(point);
+}
+
+QPoint RandomUser::pointOnDesktop()
+{
+    return QPoint(upTo(1280), upTo(1024));
+}
+
+QWidget* RandomUser::anyVisible(const QStringList& classes)
+{
+    QWidgetList found;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* const widget : widgets) {
+        for (const QString& name : classes) {
+            if (widget->isVisible() && widget->inherits(name.toLatin1().constData())) {
+                found.append(widget);
+                break;
+            }
+        }
+    }
+    return found.isEmpty() ? nullptr : found[upTo(int(found.size()))];
+}
+
+RandomUser::Gesture RandomUser::click(const QPoint& point) const
+{
+    return words("mousemove") << text(point.x()) << text(point.y()) << words("click 1");
+}
+
+RandomUser::Gesture RandomUser::drag(const QPoint& from, const QPoint& to) const
+{
+    const int steps = 4;
+    Gesture gesture = words("mousemove");
+    gesture << text(from.x()) << text(from.y()) << words("mousedown 1");
+    for (int i = 1; i <= steps; ++i) {
+        const QPoint point = from + (to - from) * i / steps;
+        gesture << words("sleep 0.02 mousemove") << text(point.x()) << text(point.y());
+    }
+    return gesture << words("sleep 0.02 mouseup 1");
+}
+
+}} // namespace Norvane::Benchmarks
