@@ -62,7 +62,7 @@ void HostWindow::buildPanelsMenu()
     QActionGroup* const kinds = new QActionGroup(this);
     kinds->setExclusive(false);
     for (const PanelOffer& offer : kPanelOffers) {
-        QAction* const action = addEntry(menu, QApplication::translate("PanelOffers", offer.text), nullptr);
+        QAction* const action = addEntry(menu, tr(offer.text), nullptr);
         action->setData(offer.kind);
         kinds->addAction(action);
     }

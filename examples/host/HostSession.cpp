@@ -70,7 +70,20 @@ void HostWindow::start(const CommandLine& commandLine)
         openPictures(commandLine.pictures);
     else
         showFirstArrangement(commandLine.pictures);
+    if (!commandLine.scriptPath.isEmpty())
+        runScript(commandLine.scriptPath);
     m_recorder->start();
+}
+
+void HostWindow::runScript(const QString& path)
+{
+    QWidget* panel = m_panels.find(openIds(PanelRegistry::ScriptKind).value(0));
+    if (panel)
+        m_placer.show(panel);
+    else
+        panel = m_placer.showNew(PanelRegistry::ScriptKind);
+    // When the program is ready for its user, as scripts find it later.
+    QMetaObject::invokeMethod(panel, "runFile", Qt::QueuedConnection, Q_ARG(QString, path));
 }
 
 void HostWindow::showFirstArrangement(const QStringList& pictures)

@@ -106,6 +106,7 @@ private:
 
     /// \a pictures may be empty: there are samples.
     void showFirstArrangement(const QStringList& pictures);
+    void runScript(const QString& path);
     bool restoreSession();
     bool saveSession(QString* problem);
     bool restoreFile(const QString& path);

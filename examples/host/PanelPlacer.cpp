@@ -12,15 +12,17 @@ using UI::Dock;
 
 // Controls are not put in front of the viewer that they act on.
 const PanelOffer kPanelOffers[kPanelOfferCount] = {
-    {PanelRegistry::ViewerKind, QT_TRANSLATE_NOOP("PanelOffers", "New &Viewer"), "Viewer."},
-    {PanelRegistry::PicturesKind, QT_TRANSLATE_NOOP("PanelOffers", "New &Pictures"), nullptr},
-    {PanelRegistry::NotesKind, QT_TRANSLATE_NOOP("PanelOffers", "New &Notes"), nullptr},
-    {PanelRegistry::FilesKind, QT_TRANSLATE_NOOP("PanelOffers", "New &Files"), "Pictures."},
-    {PanelRegistry::InspectorKind, QT_TRANSLATE_NOOP("PanelOffers", "New &Inspector"), "Pictures."},
-    {PanelRegistry::ControlsKind, QT_TRANSLATE_NOOP("PanelOffers", "New Contro&ls"), "Pictures."},
-    {PanelRegistry::ColourKind, QT_TRANSLATE_NOOP("PanelOffers", "New C&olour"), "Pictures."},
-    {PanelRegistry::ScriptKind, QT_TRANSLATE_NOOP("PanelOffers", "New &Script"), "Notes."},
-    {PanelRegistry::ScopesKind, QT_TRANSLATE_NOOP("PanelOffers", "New Scop&es"), "Pictures."}};
+    {PanelRegistry::ViewerKind, QT_TRANSLATE_NOOP("Norvane::Host::HostWindow", "New &Viewer"), "Viewer."},
+    {PanelRegistry::PicturesKind, QT_TRANSLATE_NOOP("Norvane::Host::HostWindow", "New &Pictures"), nullptr},
+    {PanelRegistry::NotesKind, QT_TRANSLATE_NOOP("Norvane::Host::HostWindow", "New &Notes"), nullptr},
+    {PanelRegistry::FilesKind, QT_TRANSLATE_NOOP("Norvane::Host::HostWindow", "New &Files"), "Pictures."},
+    {PanelRegistry::InspectorKind, QT_TRANSLATE_NOOP("Norvane::Host::HostWindow", "New &Inspector"),
+     "Pictures."},
+    {PanelRegistry::ControlsKind, QT_TRANSLATE_NOOP("Norvane::Host::HostWindow", "New Contro&ls"),
+     "Pictures."},
+    {PanelRegistry::ColourKind, QT_TRANSLATE_NOOP("Norvane::Host::HostWindow", "New C&olour"), "Pictures."},
+    {PanelRegistry::ScriptKind, QT_TRANSLATE_NOOP("Norvane::Host::HostWindow", "New &Script"), "Notes."},
+    {PanelRegistry::ScopesKind, QT_TRANSLATE_NOOP("Norvane::Host::HostWindow", "New Scop&es"), "Pictures."}};
 
 PanelPlacer::PanelPlacer(UI::DockMainWindow* window, PanelRegistry* panels, const PanelFocus* focus)
     : m_window(window)

@@ -14,7 +14,7 @@ class PanelFocus;
 /// What the Panels menu offers: kinds of panels, and what panels they are shown with.
 struct PanelOffer {
     PanelRegistry::Kind kind;
-    /// For the menu; to be translated in the context "PanelOffers".
+    /// For the menu and HostWindow::tr().
     const char* text;
     /// An id of the panels whose pane a new one joins; null for the pane that the user works in.
     const char* neighbour;

@@ -5,6 +5,7 @@
 #include <examples/host/HostWindow.h>
 #include <examples/host/LayoutStore.h>
 #include <examples/host/NotesPanel.h>
+#include <examples/host/ScriptPanel.h>
 #include <examples/host/ViewerPanel.h>
 
 #include <tests/support/Desk.h>
@@ -13,6 +14,7 @@
 #include <QAction>
 #include <QDir>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QSettings>
 
 using namespace NorvaneTest;
@@ -34,8 +36,11 @@ private Q_SLOTS:
     void newPanelJoinsItsNeighbours_data();
     void newPanelJoinsItsNeighbours();
     void panelsFollowTheFocusedViewer();
+    void scriptIsRunInItsPanel();
 
 private:
+    /// A window with two pictures, in the arrangement that is the first one.
+    void open(const QString& script);
     /// The entry of any menu with this text, mnemonic and all.
     QAction* entry(const char* text) const;
     /// The panes of the main window.
@@ -58,10 +63,16 @@ void tst_HostArrangements::initTestCase()
 
 void tst_HostArrangements::init()
 {
+    open(QString());
+}
+
+void tst_HostArrangements::open(const QString& script)
+{
     m_window = new HostWindow;
     m_menu = m_window->findChild<ArrangementMenu*>();
     CommandLine commandLine;
     commandLine.fresh = true;
+    commandLine.scriptPath = script;
     for (const char* const name : {"Dunes.png", "StillLife.png"})
         commandLine.pictures.append(QDir(latin1(NORVANE_SAMPLES)).filePath(latin1(name)));
     m_window->start(commandLine);
@@ -219,6 +230,16 @@ void tst_HostArrangements::panelsFollowTheFocusedViewer()
         WAIT_FOR(m_window->windowTitle().startsWith(latin1(name)));
         QVERIFY(facts->text().startsWith(latin1(name)));
     }
+}
+
+void tst_HostArrangements::scriptIsRunInItsPanel()
+{
+    cleanup();
+    const QString script = latin1("/no/such/script.py");
+    open(script);
+    QVERIFY(m_window->findDockByName(latin1("Script.1"), true, false));
+    const QPlainTextEdit* const output = m_window->findChild<ScriptPanel*>()->findChild<QPlainTextEdit*>();
+    WAIT_FOR(output->toPlainText().contains(QDir::toNativeSeparators(script)));
 }
 
 QTEST_MAIN(tst_HostArrangements)
