@@ -13,6 +13,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Norvane { namespace Host {
 
 using UI::ColorSlider;
@@ -101,13 +103,12 @@ void ColourPanel::addStanding(QBoxLayout* row, ColorSlider* slider, const QStrin
 void ColourPanel::setViewer(ViewerPanel* viewer)
 {
     setEnabled(viewer != nullptr);
-    if (viewer == m_viewer)
-        return;
+    const PictureGrade grade = viewer ? viewer->view()->grade() : PictureGrade();
+    const bool isShown = viewer == m_viewer && std::equal(grade.gain, grade.gain + 3, m_grade.gain);
     m_viewer = viewer;
-    if (!viewer)
-        return;
-    const double* const gain = viewer->view()->grade().gain;
-    m_control.setColorRGBA(float(gain[0]), float(gain[1]), float(gain[2]), 1);
+    m_grade = grade;
+    if (viewer && !isShown)
+        m_control.setColorRGBA(float(grade.gain[0]), float(grade.gain[1]), float(grade.gain[2]), 1);
 }
 
 void ColourPanel::resetToDefault()
@@ -121,10 +122,10 @@ void ColourPanel::colorChanged(float red, float green, float blue, float alpha)
     if (!m_viewer)
         return;
     const float gain[] = {red, green, blue};
-    PictureGrade grade = m_viewer->view()->grade();
+    m_grade = m_viewer->view()->grade();
     for (int i = 0; i < 3; ++i)
-        grade.gain[i] = qMax(0.0, 1 + double(alpha) * (double(gain[i]) - 1));
-    m_viewer->view()->setGrade(grade);
+        m_grade.gain[i] = qMax(0.0, 1 + double(alpha) * (double(gain[i]) - 1));
+    m_viewer->view()->setGrade(m_grade);
 }
 
 // Nothing here can be undone but by Reset.

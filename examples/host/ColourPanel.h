@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PictureGrade.h"
+
 #include <ui/colour/ColorControl.h>
 #include <ui/colour/IColorControlClient.h>
 
@@ -36,6 +38,8 @@ private:
 
     UI::ColorControl m_control;
     QPointer<ViewerPanel> m_viewer;
+    /// Its grade as it is shown here.
+    PictureGrade m_grade;
 };
 
 }} // namespace Norvane::Host

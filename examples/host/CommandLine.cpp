@@ -6,50 +6,95 @@
 
 namespace Norvane { namespace Host {
 
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
+
+struct Switch {
+    const char* name;
+    bool CommandLine::*isOn;
+};
+
+const Switch kSwitches[] = {{"--fresh", &CommandLine::fresh},     {"--dark", &CommandLine::dark},
+                            {"--help", &CommandLine::help},       {"-h", &CommandLine::help},
+                            {"--version", &CommandLine::version}, {"-v", &CommandLine::version}};
+
+/// Given as "--name VALUE" or "--name=VALUE".
+struct ValueOption {
+    const char* name;
+    QString CommandLine::*value;
+    /// What is told if the value is missing.
+    const char* problem;
+};
+
+const ValueOption kValueOptions[] = {
+    {"--layout", &CommandLine::layoutPath, QT_TRANSLATE_NOOP("CommandLine", "--layout needs a file.")},
+    {"--script", &CommandLine::scriptPath, QT_TRANSLATE_NOOP("CommandLine", "--script needs a file.")},
+    {"--language", &CommandLine::language,
+     QT_TRANSLATE_NOOP("CommandLine", "--language needs a code, such as de.")}};
+
+bool takeSwitch(const QString& argument, CommandLine* line)
+{
+    for (const Switch& known : kSwitches) {
+        if (argument != QLatin1String(known.name))
+            continue;
+        line->*known.isOn = true;
+        return true;
+    }
+    return false;
+}
+
+bool takeValue(const QString& argument, QStringList* rest, CommandLine* line)
+{
+    for (const ValueOption& known : kValueOptions) {
+        const QString name = QLatin1String(known.name);
+        if (argument.startsWith(name + QLatin1Char('=')))
+            line->*known.value = argument.mid(name.size() + 1);
+        else if (argument != name)
+            continue;
+        else if (rest->isEmpty())
+            line->problem = Texts::tr(known.problem);
+        else
+            line->*known.value = rest->takeFirst();
+        return true;
+    }
+    return false;
+}
+
+bool takeFrame(const QString& argument, QStringList* rest, CommandLine* line)
+{
+    if (argument != QLatin1String("--frame"))
+        return false;
+    if (rest->size() < 2) {
+        line->problem = Texts::tr("--frame needs a layout with a size, and a file.");
+        return true;
+    }
+    FrameAddress address;
+    address.format = rest->takeFirst();
+    address.path = rest->takeFirst();
+    line->pictures.append(address.toString());
+    return true;
+}
+
+} // namespace
+
 CommandLine CommandLine::parse(const QStringList& arguments)
 {
     CommandLine line;
-    const QString layoutPrefix = QLatin1String("--layout=");
-    bool onlyPictures = false;
-    for (int i = 1; i < arguments.size(); ++i) {
-        const QString& argument = arguments[i];
-        if (onlyPictures || !argument.startsWith(QLatin1Char('-'))) {
-            line.pictures.append(argument);
-        } else if (argument == QLatin1String("--")) {
-            onlyPictures = true;
-        } else if (argument == QLatin1String("--fresh")) {
-            line.fresh = true;
-        } else if (argument == QLatin1String("--dark")) {
-            line.dark = true;
-        } else if (argument == QLatin1String("--help") || argument == QLatin1String("-h")) {
-            line.help = true;
-        } else if (argument == QLatin1String("--version") || argument == QLatin1String("-v")) {
-            line.version = true;
-        } else if (argument.startsWith(layoutPrefix)) {
-            line.layoutPath = argument.mid(layoutPrefix.size());
-        } else if (argument == QLatin1String("--layout") && i + 1 < arguments.size()) {
-            line.layoutPath = arguments[++i];
-        } else if (argument == QLatin1String("--language") && i + 1 < arguments.size()) {
-            line.language = arguments[++i];
-        } else if (argument == QLatin1String("--frame") && i + 2 < arguments.size()) {
-            FrameAddress address;
-            address.format = arguments[++i];
-            address.path = arguments[++i];
-            line.pictures.append(address.toString());
-        } else if (argument == QLatin1String("--frame")) {
-            line.problem =
-                QCoreApplication::translate("CommandLine", "--frame needs a layout with a size, and a file.");
-            return line;
-        } else if (argument == QLatin1String("--language")) {
-            line.problem = QCoreApplication::translate("CommandLine", "--language needs a code, such as de.");
-            return line;
-        } else if (argument == QLatin1String("--layout")) {
-            line.problem = QCoreApplication::translate("CommandLine", "--layout needs a file.");
-            return line;
-        } else {
-            line.problem = QCoreApplication::translate("CommandLine", "Unknown option \"%1\".").arg(argument);
-            return line;
+    QStringList rest = arguments.mid(1);
+    while (!rest.isEmpty() && line.problem.isEmpty()) {
+        const QString argument = rest.takeFirst();
+        if (argument == QLatin1String("--")) {
+            line.pictures += rest;
+            break;
         }
+        if (!argument.startsWith(QLatin1Char('-')))
+            line.pictures.append(argument);
+        else if (!takeSwitch(argument, &line) && !takeValue(argument, &rest, &line) &&
+                 !takeFrame(argument, &rest, &line))
+            line.problem = Texts::tr("Unknown option \"%1\".").arg(argument);
     }
     return line;
 }
@@ -67,6 +112,7 @@ QString CommandLine::helpText()
                        "                 on quitting, instead of that of the last session\n"
                        "  --fresh        start with the default arrangement\n"
                        "  --dark         use the dark palette\n"
+                       "  --script FILE  run the Python script FILE in a Script panel\n"
                        "  --language CODE\n"
                        "                 show all texts in this language, such as de or en,\n"
                        "                 instead of the user's\n"

@@ -13,6 +13,8 @@ struct CommandLine {
     QString layoutPath;
     /// The code of a language that texts are to be in; empty: the user's.
     QString language;
+    /// A Python script to be run after the start.
+    QString scriptPath;
     bool fresh = false;
     bool dark = false;
     bool help = false;

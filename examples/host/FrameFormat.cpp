@@ -9,8 +9,6 @@ using namespace Colour;
 
 namespace {
 
-/// QImage counts bytes in an int.
-const int kLongestSide = 32767;
 const int kPaddedTo = 128;
 const char* const kAddressPrefix = "frame:";
 
@@ -91,7 +89,8 @@ bool readSize(const QString& text, int* width, int* height)
         return false;
     *width = sides[0].toInt();
     *height = sides[1].toInt();
-    return *width > 0 && *height > 0 && *width <= kLongestSide && *height <= kLongestSide;
+    const int most = FrameFormat::kLongestSide;
+    return *width > 0 && *height > 0 && *width <= most && *height <= most;
 }
 
 QString readableLayouts()
@@ -191,6 +190,15 @@ qint64 FrameFormat::paddedRowBytes() const
     if (layout->rows.sampleType != kSample10)
         return rowBytes();
     return (rowBytes() + kPaddedTo - 1) / kPaddedTo * kPaddedTo;
+}
+
+qint64 FrameFormat::rowDistance(qint64 fileSize) const
+{
+    for (const qint64 distance : {paddedRowBytes(), rowBytes()}) {
+        if (fileSize == height * distance)
+            return distance;
+    }
+    return 0;
 }
 
 FrameAddress FrameAddress::fromString(const QString& text)

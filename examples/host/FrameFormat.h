@@ -29,6 +29,9 @@ const QList<FrameLayout>& frameLayouts();
 
 /// What has to be known of a file that holds the samples of a frame and nothing else.
 struct FrameFormat {
+    /// Of width and height. QImage counts bytes in an int.
+    static const int kLongestSide = 32767;
+
     const FrameLayout* layout = nullptr;
     int width = 0;
     int height = 0;
@@ -44,6 +47,8 @@ struct FrameFormat {
     qint64 rowBytes() const;
     /// The same with the padding that is usual in files: to 128 bytes in V210, none elsewhere.
     qint64 paddedRowBytes() const;
+    /// From row to row in a file of \a fileSize bytes: one of the two above. 0 if neither makes such a file.
+    qint64 rowDistance(qint64 fileSize) const;
 };
 
 /// A frame's place in the lists of pictures: its format and its file, in one text. Everything that takes the

@@ -1,13 +1,15 @@
-// How the main window shows the user's own arrangements and the steps that were recorded.
+// How the main window shows arrangements, the user's own and the steps that were recorded.
 
 #include "ArrangementMenu.h"
 #include "ArrangementRecorder.h"
 #include "Arrangements.h"
 #include "HostWindow.h"
 #include "LayoutDocument.h"
+#include "ViewerPanel.h"
 
 #include <ui/docking/Dock.h>
 #include <ui/docking/LayoutInspector.h>
+#include <ui/toolkit/Screens.h>
 
 #include <QBuffer>
 #include <QMenuBar>
@@ -40,6 +42,51 @@ UI::Dock* HostWindow::createDock()
     return pane;
 }
 
+void HostWindow::arrange(Arrangement arrangement)
+{
+    ArrangedPanels panels;
+    panels.viewers = idsToArrange(PanelRegistry::ViewerKind);
+    panels.pictures = idsToArrange(PanelRegistry::PicturesKind);
+    // They share the pane of the pictures.
+    for (const PanelRegistry::Kind kind :
+         {PanelRegistry::FilesKind, PanelRegistry::InspectorKind, PanelRegistry::ControlsKind,
+          PanelRegistry::ColourKind, PanelRegistry::ScopesKind})
+        panels.pictures += openIds(kind);
+    panels.notes = idsToArrange(PanelRegistry::NotesKind);
+    panels.currentViewer = focusedViewer() ? focusedViewer()->objectName() : panels.viewers.first();
+    restoreSafely(arrangementDocument(arrangement, panels, place()), tr("The arrangement"));
+}
+
+QStringList HostWindow::idsToArrange(PanelRegistry::Kind kind)
+{
+    const QStringList open = openIds(kind);
+    if (!open.isEmpty())
+        return open;
+    const QStringList all = m_panels.ids(kind);
+    return all.isEmpty() ? QStringList(m_panels.createPanel(kind)->objectName()) : all;
+}
+
+QStringList HostWindow::openIds(PanelRegistry::Kind kind) const
+{
+    QStringList open;
+    const QStringList all = m_panels.ids(kind);
+    for (const QString& id : all) {
+        if (UI::Dock::dockForWidget(m_panels.find(id)))
+            open.append(id);
+    }
+    return open;
+}
+
+MainWindowPlace HostWindow::place() const
+{
+    MainWindowPlace place;
+    place.screen = UI::Screens::numberOf(this);
+    place.frame = frameGeometry();
+    place.maximized = isMaximized();
+    place.fullscreen = isFullScreen();
+    return place;
+}
+
 void HostWindow::showBuiltIn(int arrangement)
 {
     m_recorder->recordNow();
@@ -58,8 +105,7 @@ void HostWindow::showOwn(const QString& name, const QByteArray& layout)
         // The panes of before, which are about to go, still have those panels that are in no pane now.
         if (docks().contains(UI::Dock::dockForWidget(viewer)))
             continue;
-        UI::Dock* const pane = findDockByName(id, false, true);
-        (pane ? pane : paneForPanels())->addWidget(viewer, false, false);
+        m_placer.paneFor(id)->addWidget(viewer, false, false);
     }
 }
 

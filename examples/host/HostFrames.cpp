@@ -1,16 +1,19 @@
 // What the main window does with frames of video.
 
+#include "FrameDialog.h"
+#include "FrameSaveDialog.h"
+#include "FrameWriting.h"
 #include "HostWindow.h"
 #include "Pictures.h"
 #include "PictureView.h"
-#include "VideoFrames.h"
 #include "ViewerPanel.h"
 
 #include <ui/docking/Dock.h>
 
 #include <QDir>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
+#include <QSettings>
 
 namespace Norvane { namespace Host {
 
@@ -25,12 +28,18 @@ FrameFormat formatOf(const ViewerPanel& viewer)
     return format;
 }
 
-QString filterOf(const FrameLayout& layout)
-{
-    return HostWindow::tr("%1 samples (*.%2)").arg(layout.name(), layout.name().toLower());
-}
-
 } // namespace
+
+void HostWindow::chooseFrame()
+{
+    const QString folderKey = QLatin1String("Folders/Frames");
+    FrameDialog dialog(QSettings().value(folderKey).toString(), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const FrameAddress address = dialog.address();
+    QSettings().setValue(folderKey, QFileInfo(address.path).path());
+    openPicture(address.toString());
+}
 
 void HostWindow::reinterpretFrame(const QString& path, const QString& other)
 {
@@ -47,19 +56,10 @@ void HostWindow::saveFrame()
     const ViewerPanel* const viewer = focusedViewer();
     if (!viewer || viewer->picture().isNull())
         return;
-    // The layout is chosen as the type of the file.
-    QStringList filters;
-    for (const FrameLayout& layout : frameLayouts())
-        filters.append(filterOf(layout));
-    QFileDialog dialog(this, tr("Save Frame"), QFileInfo(Pictures::filePath(viewer->picturePath())).path());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters(filters);
-    if (const FrameLayout* const layout = formatOf(*viewer).layout)
-        dialog.selectNameFilter(filterOf(*layout));
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    const FrameLayout& layout = frameLayouts()[int(filters.indexOf(dialog.selectedNameFilter()))];
-    saveFrameAs(*viewer, layout, dialog.selectedFiles().first());
+    const QString folder = QFileInfo(Pictures::filePath(viewer->picturePath())).path();
+    FrameSaveDialog dialog(folder, formatOf(*viewer).layout, this);
+    if (dialog.exec() == QDialog::Accepted)
+        saveFrameAs(*viewer, dialog.frameLayout(), dialog.selectedFiles().first());
 }
 
 void HostWindow::saveFrameAs(const ViewerPanel& viewer, const FrameLayout& layout, const QString& path)
@@ -69,11 +69,19 @@ void HostWindow::saveFrameAs(const ViewerPanel& viewer, const FrameLayout& layou
     if (format.layout != &layout)
         format.matrix = layout.usualMatrix(viewer.picture().height());
     format.layout = &layout;
-    QString problem;
-    if (VideoFrames::write(viewer.view()->gradedPicture(), format, path, &problem))
+    BackgroundJob* const writing = new FrameWriting(viewer.picture(), viewer.view()->grade(), format, path);
+    connect(writing, SIGNAL(finished()), this, SLOT(frameWritten()));
+    writing->start();
+}
+
+void HostWindow::frameWritten()
+{
+    const FrameWriting* const writing = static_cast<FrameWriting*>(sender());
+    if (writing->problem().isEmpty())
         return;
+    const QString file = QDir::toNativeSeparators(writing->path());
     QMessageBox::warning(this, tr("Save Frame"),
-                         tr("\"%1\" cannot be written.\n\n%2").arg(QDir::toNativeSeparators(path), problem));
+                         tr("\"%1\" cannot be written.\n\n%2").arg(file, writing->problem()));
 }
 
 }} // namespace Norvane::Host

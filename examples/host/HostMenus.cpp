@@ -46,6 +46,7 @@ void HostWindow::buildFileMenu()
 {
     QMenu* const menu = menuBar()->addMenu(tr("&File"));
     addEntry(menu, tr("&Open Picture..."), SLOT(choosePictures()), tr("Ctrl+O"));
+    addEntry(menu, tr("Open F&rame..."), SLOT(chooseFrame()), tr("Ctrl+Shift+F"));
     m_saveFrameAction = addEntry(menu, tr("Save &Frame..."), SLOT(saveFrame()), tr("Ctrl+Shift+S"));
     m_saveFrameAction->setEnabled(false);
     menu->addSeparator();
@@ -58,15 +59,14 @@ void HostWindow::buildFileMenu()
 void HostWindow::buildPanelsMenu()
 {
     QMenu* const menu = menuBar()->addMenu(tr("&Panels"));
-    addEntry(menu, tr("New &Viewer"), SLOT(newViewer()));
-    addEntry(menu, tr("New &Pictures"), SLOT(newPictures()));
-    addEntry(menu, tr("New &Notes"), SLOT(newNotes()));
-    addEntry(menu, tr("New &Files"), SLOT(newFiles()));
-    addEntry(menu, tr("New &Inspector"), SLOT(newInspector()));
-    addEntry(menu, tr("New Contro&ls"), SLOT(newControls()));
-    addEntry(menu, tr("New C&olour"), SLOT(newColour()));
-    addEntry(menu, tr("New &Script"), SLOT(newScript()));
-    addEntry(menu, tr("New Scop&es"), SLOT(newScopes()));
+    QActionGroup* const kinds = new QActionGroup(this);
+    kinds->setExclusive(false);
+    for (const PanelOffer& offer : kPanelOffers) {
+        QAction* const action = addEntry(menu, tr(offer.text), nullptr);
+        action->setData(offer.kind);
+        kinds->addAction(action);
+    }
+    connect(kinds, SIGNAL(triggered(QAction*)), this, SLOT(newPanel(QAction*)));
     menu->addSeparator();
     m_notesMenu = menu->addMenu(tr("&Closed Notes"));
     connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillNotesMenu()));

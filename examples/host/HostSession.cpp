@@ -70,7 +70,20 @@ void HostWindow::start(const CommandLine& commandLine)
         openPictures(commandLine.pictures);
     else
         showFirstArrangement(commandLine.pictures);
+    if (!commandLine.scriptPath.isEmpty())
+        runScript(commandLine.scriptPath);
     m_recorder->start();
+}
+
+void HostWindow::runScript(const QString& path)
+{
+    QWidget* panel = m_panels.find(openIds(PanelRegistry::ScriptKind).value(0));
+    if (panel)
+        m_placer.show(panel);
+    else
+        panel = m_placer.showNew(PanelRegistry::ScriptKind);
+    // When the program is ready for its user, as scripts find it later.
+    QMetaObject::invokeMethod(panel, "runFile", Qt::QueuedConnection, Q_ARG(QString, path));
 }
 
 void HostWindow::showFirstArrangement(const QStringList& pictures)
@@ -194,7 +207,7 @@ bool HostWindow::restoreSafely(const QByteArray& layout, const QString& name)
         return false;
     }
     const QByteArray before = LayoutStore::layoutOf(this);
-    const QPointer<ViewerPanel> activeViewer = m_activeViewer;
+    const QPointer<ViewerPanel> viewer = focusedViewer();
     m_restoring = true;
     setFocusPage(QString());
     const bool restored = LayoutStore::restore(this, layout);
@@ -202,8 +215,7 @@ bool HostWindow::restoreSafely(const QByteArray& layout, const QString& name)
         m_keptTexts.clear();
     m_restoring = false;
     restoreKeptTexts();
-    if (UI::Dock::dockForWidget(activeViewer))
-        m_activeViewer = activeViewer;
+    m_focus.setViewer(viewer);
     focusAfterRestore();
     panelRemoved();
     if (!restored) {
@@ -222,8 +234,8 @@ void HostWindow::focusAfterRestore()
 {
     if (QWidget* const panel = m_panels.find(getFocusPage()))
         panel->setFocus(Qt::OtherFocusReason);
-    else if (m_activeViewer)
-        m_activeViewer->setFocus(Qt::OtherFocusReason);
+    else if (focusedViewer())
+        focusedViewer()->setFocus(Qt::OtherFocusReason);
 }
 
 void HostWindow::keepText(const QString& text)
@@ -237,51 +249,6 @@ void HostWindow::restoreKeptTexts()
         NotesPanel* const notes = qobject_cast<NotesPanel*>(m_panels.createPanel(PanelRegistry::NotesKind));
         notes->setLayoutState(m_keptTexts.takeFirst());
     }
-}
-
-void HostWindow::arrange(Arrangement arrangement)
-{
-    ArrangedPanels panels;
-    panels.viewers = idsToArrange(PanelRegistry::ViewerKind);
-    panels.pictures = idsToArrange(PanelRegistry::PicturesKind);
-    // They share the pane of the pictures.
-    for (const PanelRegistry::Kind kind :
-         {PanelRegistry::FilesKind, PanelRegistry::InspectorKind, PanelRegistry::ControlsKind,
-          PanelRegistry::ColourKind, PanelRegistry::ScopesKind})
-        panels.pictures += openIds(kind);
-    panels.notes = idsToArrange(PanelRegistry::NotesKind);
-    panels.currentViewer = m_activeViewer ? m_activeViewer->objectName() : panels.viewers.first();
-    restoreSafely(arrangementDocument(arrangement, panels, place()), tr("The arrangement"));
-}
-
-QStringList HostWindow::idsToArrange(PanelRegistry::Kind kind)
-{
-    const QStringList open = openIds(kind);
-    if (!open.isEmpty())
-        return open;
-    const QStringList all = m_panels.ids(kind);
-    return all.isEmpty() ? QStringList(m_panels.createPanel(kind)->objectName()) : all;
-}
-
-QStringList HostWindow::openIds(PanelRegistry::Kind kind) const
-{
-    QStringList open;
-    const QStringList all = m_panels.ids(kind);
-    for (const QString& id : all) {
-        if (UI::Dock::dockForWidget(m_panels.find(id)))
-            open.append(id);
-    }
-    return open;
-}
-
-MainWindowPlace HostWindow::place() const
-{
-    MainWindowPlace place;
-    place.screen = UI::Screens::numberOf(this);
-    place.frame = frameGeometry();
-    place.maximized = isMaximized();
-    place.fullscreen = isFullScreen();
-    return place;
 }
 
 }} // namespace Norvane::Host

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "BackgroundJob.h"
+#include "PanelFocus.h"
+#include "PanelPlacer.h"
 #include "PanelRegistry.h"
 #include "PictureAnalysis.h"
 #include "PictureList.h"
@@ -8,7 +11,6 @@
 #include <ui/docking/DockMainWindow.h>
 #include <ui/progress/DialogProgressManager.h>
 
-#include <QPointer>
 #include <QString>
 #include <QStringList>
 
@@ -44,13 +46,8 @@ public:
     UI::Dock* createDock() override;
     QWidget* createPage(QString& id) override;
 
-    /// The viewer that last had the keyboard focus, which panels with controls act on. Another one if that is
-    /// in no pane any more; null if there is none.
+    /// The viewer that panels with controls act on. Null if there is none.
     ViewerPanel* focusedViewer() const;
-
-Q_SIGNALS:
-    /// Another viewer is the focused one, or it shows another picture. Null for none.
-    void focusedViewerChanged(Norvane::Host::ViewerPanel* viewer);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -61,21 +58,15 @@ private Q_SLOTS:
     void openPicture(const QString& path);
     void openPictures(const QStringList& paths);
     void analysePictures();
+    void chooseFrame();
     void saveFrame();
+    void frameWritten();
     /// Shows the frame \a path as \a other wherever it is to be seen.
     void reinterpretFrame(const QString& path, const QString& other);
     void chooseLayoutToSave();
     void chooseLayoutToOpen();
 
-    void newViewer();
-    void newPictures();
-    void newNotes();
-    void newFiles();
-    void newInspector();
-    void newControls();
-    void newColour();
-    void newScript();
-    void newScopes();
+    void newPanel(QAction* action);
     void fillNotesMenu();
     void reopenNotes(QAction* action);
 
@@ -92,8 +83,7 @@ private Q_SLOTS:
 
     void connectPanel(QWidget* panel);
     void panelRemoved();
-    void panelActivated(Norvane::UI::Dock* pane, QWidget* panel);
-    void focusMoved(QWidget* from, QWidget* to);
+    void showViewer(Norvane::Host::ViewerPanel* viewer);
     void pictureChanged();
     void keepText(const QString& text);
     void tidyUp();
@@ -116,6 +106,7 @@ private:
 
     /// \a pictures may be empty: there are samples.
     void showFirstArrangement(const QStringList& pictures);
+    void runScript(const QString& path);
     bool restoreSession();
     bool saveSession(QString* problem);
     bool restoreFile(const QString& path);
@@ -135,32 +126,25 @@ private:
     QStringList openIds(PanelRegistry::Kind kind) const;
     MainWindowPlace place() const;
 
-    void addPanel(QWidget* panel, UI::Dock* pane);
-    void showPanel(QWidget* panel);
-    UI::Dock* paneForPanels();
-    UI::Dock* paneForControls();
-    UI::Dock* paneForViewers();
-    void updateTitle();
-    void updateInspectors();
-    void viewerMayHaveChanged();
-
     /// Children of the window.
     ArrangementRecorder* m_recorder;
     ArrangementMenu* m_arrangementMenu = nullptr;
-    PictureList m_pictures;
     UI::DialogProgressManager m_progress;
-    /// Its tasks are the manager's.
+    /// The tasks of what follows are the manager's.
+    struct ThreadsEnd {
+        ~ThreadsEnd() { BackgroundJob::waitForAll(); }
+    } m_threadsEnd;
+    PictureList m_pictures;
     PictureAnalysis m_analysis;
     ScriptInterpreter m_scripts;
     PanelRegistry m_panels;
+    PanelFocus m_focus;
+    PanelPlacer m_placer;
     QString m_layoutPath;
     ControlHelp* m_controlHelp;
     QMenu* m_notesMenu = nullptr;
     QAction* m_fullScreenAction = nullptr;
     QAction* m_saveFrameAction = nullptr;
-    /// The pane that last had the keyboard focus, which a menu may have by now.
-    QPointer<UI::Dock> m_activePane;
-    QPointer<ViewerPanel> m_activeViewer;
     /// Texts of notes that a layout replaced by others while it was restored.
     QStringList m_keptTexts;
     bool m_restoring = false;

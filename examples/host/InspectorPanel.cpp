@@ -2,6 +2,7 @@
 
 #include "FactsTable.h"
 #include "FrameInspector.h"
+#include "ViewerPanel.h"
 
 #include <ui/widgets/DisclosureButton.h>
 
@@ -115,6 +116,14 @@ void InspectorPanel::setPicture(const QString& path, const QImage& picture)
     m_frame->setPicture(path);
     showFrameGroup();
     updateGroups();
+}
+
+void InspectorPanel::setViewer(ViewerPanel* viewer)
+{
+    if (viewer)
+        setPicture(viewer->picturePath(), viewer->picture());
+    else
+        setPicture(QString(), QImage());
 }
 
 QString InspectorPanel::layoutState() const

@@ -16,6 +16,7 @@ namespace Norvane { namespace Host {
 
 class FactsTable;
 class FrameInspector;
+class ViewerPanel;
 
 /// A panel that tells about the picture in the viewer that was used last, in groups that can be closed. The
 /// layout state is which of them are open: a 1 or a 0 for each.
@@ -32,6 +33,10 @@ public:
 
     QString layoutState() const;
     void setLayoutState(const QString& text);
+
+public Q_SLOTS:
+    /// Tells about the picture of \a viewer as it is now. Null for no viewer.
+    void setViewer(Norvane::Host::ViewerPanel* viewer);
 
 Q_SIGNALS:
     /// The user wants the frame \a path shown as \a other.

@@ -1,5 +1,7 @@
 #include "LayoutStore.h"
 
+#include "FileReplacement.h"
+
 #include <ui/docking/DockMainWindow.h>
 #include <ui/docking/LayoutInspector.h>
 
@@ -11,9 +13,6 @@
 #include <QPointer>
 #include <QSettings>
 #include <QStringList>
-#include <QTemporaryFile>
-
-#include <cstdio>
 
 namespace Norvane { namespace Host { namespace LayoutStore {
 
@@ -95,32 +94,12 @@ bool read(const QString& path, QByteArray* layout, QString* problem)
 
 bool write(const QString& path, const QByteArray& layout, QString* problem)
 {
-    // A link stays a link: what it leads to is replaced.
-    const QFileInfo info(path);
-    const QString target = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
-    QDir().mkpath(QFileInfo(target).path());
-    QTemporaryFile file(target + QLatin1String(".XXXXXX"));
-    if (!file.open()) {
-        *problem = file.errorString();
-        return false;
-    }
-    // Temporary files are for their owner's eyes only; layouts may be handed around like other documents.
-    file.setPermissions(info.exists()
-                            ? QFile::permissions(target)
-                            : QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    const bool written = file.write(layout) == layout.size() && file.flush();
-    if (!written) {
-        *problem = file.errorString();
-        return false;
-    }
-    file.close();
-    if (std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(target).constData()) !=
-        0) {
-        *problem = Texts::tr("The file cannot be replaced.");
-        return false;
-    }
-    file.setAutoRemove(false);
-    return true;
+    QDir().mkpath(QFileInfo(path).path());
+    FileReplacement file(path);
+    if (file.open() && file.write(layout) == layout.size() && file.commit())
+        return true;
+    *problem = file.errorString();
+    return false;
 }
 
 QMap<QString, QString> readClosedNotes(const QString& layoutPath)

@@ -92,11 +92,6 @@ QList<NotesPanel*> PanelRegistry::notes() const
     return panelsOfType<NotesPanel>(m_panels.value(NotesKind));
 }
 
-QList<InspectorPanel*> PanelRegistry::inspectors() const
-{
-    return panelsOfType<InspectorPanel>(m_panels.value(InspectorKind));
-}
-
 QList<QWidget*> PanelRegistry::closedPanels() const
 {
     QList<QWidget*> closed;

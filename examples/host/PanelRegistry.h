@@ -10,7 +10,6 @@
 
 namespace Norvane { namespace Host {
 
-class InspectorPanel;
 class NotesPanel;
 class PictureList;
 class ScriptInterpreter;
@@ -51,7 +50,6 @@ public:
     QStringList ids(Kind kind) const;
     QList<ViewerPanel*> viewers() const;
     QList<NotesPanel*> notes() const;
-    QList<InspectorPanel*> inspectors() const;
 
     /// Panels that are in no pane and not being dragged.
     QList<QWidget*> closedPanels() const;

@@ -108,7 +108,10 @@ void AnalysisThread::analyse(int index)
     task.setProgress(0);
     task.setMessage(PictureAnalysis::tr("Reading"));
     QString problem;
-    const QImage picture = Pictures::read(m_batch->paths[index], QSize(), &problem);
+    const QImage picture = Pictures::read(m_batch->paths[index], QSize(), &problem,
+                                          [&](qint64, qint64) { return mayGoOn(index); });
+    if (!mayGoOn(index))
+        return;
     if (picture.isNull()) {
         task.setErrorState(problem);
         return;

@@ -9,6 +9,9 @@ namespace Norvane { namespace Host {
 
 namespace {
 
+const double kMostExposure = 64; // stops
+const double kMostGain = 1000;
+
 double lightOf(double code)
 {
     return code <= 0.04045 ? code / 12.92 : std::pow((code + 0.055) / 1.055, 2.4);
@@ -38,6 +41,12 @@ bool PictureGrade::operator==(const PictureGrade& other) const
 bool PictureGrade::isNeutral() const
 {
     return *this == PictureGrade();
+}
+
+bool PictureGrade::isPossible() const
+{
+    return std::fabs(exposure) <= kMostExposure &&
+           std::all_of(gain, gain + 3, [](double factor) { return factor >= 0 && factor <= kMostGain; });
 }
 
 QImage gradedImage(const QImage& image, const PictureGrade& grade)

@@ -14,9 +14,11 @@ struct PictureGrade {
     bool operator==(const PictureGrade& other) const;
     /// Whether it changes nothing.
     bool isNeutral() const;
+    /// Whether it can be computed: no factor is negative, and no number is beyond all that is to be seen.
+    bool isPossible() const;
 };
 
-/// \a image, which is RGB32 or premultiplied ARGB32, graded; in the same format.
+/// \a image, which has 32 bits a pixel, graded; in the same format.
 QImage gradedImage(const QImage& image, const PictureGrade& grade);
 
 }} // namespace Norvane::Host

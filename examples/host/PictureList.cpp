@@ -1,5 +1,6 @@
 #include "PictureList.h"
 
+#include "PictureLoader.h"
 #include "Pictures.h"
 
 #include <QApplication>
@@ -7,7 +8,6 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QStyle>
-#include <QTimer>
 
 namespace Norvane { namespace Host {
 
@@ -21,11 +21,10 @@ QPixmap emptyThumbnail()
     return thumbnail;
 }
 
-QPixmap makeThumbnail(const QString& path)
+/// Null: a sign that there is no picture.
+QPixmap thumbnailOf(const QImage& picture)
 {
     QPixmap thumbnail = emptyThumbnail();
-    QString problem;
-    const QImage picture = Pictures::read(path, thumbnail.size(), &problem);
     // The picture is centred so that all names stand in line.
     QRect place(QPoint(0, 0), thumbnail.size() / 3);
     if (!picture.isNull()) {
@@ -62,7 +61,9 @@ QPixmap withWaveform(const QImage& picture, const QImage& waveform)
 
 PictureList::PictureList(QObject* parent)
     : QAbstractListModel(parent)
+    , m_loader(new PictureLoader(this))
 {
+    connect(m_loader, SIGNAL(loaded(QImage, QString)), this, SLOT(setThumbnail(QImage)));
 }
 
 QStringList PictureList::paths() const
@@ -86,7 +87,7 @@ void PictureList::addPicture(const QString& path)
     entry.thumbnail = QIcon(emptyThumbnail());
     m_entries.append(entry);
     endInsertRows();
-    QTimer::singleShot(0, this, SLOT(makeNextThumbnail()));
+    loadNextThumbnail();
 }
 
 void PictureList::removePicture(const QString& path)
@@ -107,7 +108,7 @@ void PictureList::replacePicture(const QString& path, const QString& other)
     m_entries[row].path = other;
     m_entries[row].hasThumbnail = false;
     Q_EMIT dataChanged(index(row), index(row));
-    QTimer::singleShot(0, this, SLOT(makeNextThumbnail()));
+    loadNextThumbnail();
 }
 
 QString PictureList::pathAt(const QModelIndex& index) const
@@ -143,25 +144,36 @@ QSize PictureList::thumbnailSize()
     return QSize(96, 72);
 }
 
-void PictureList::makeNextThumbnail()
+void PictureList::loadNextThumbnail()
 {
-    for (int row = 0; row < rowCount(); ++row) {
-        Entry& entry = m_entries[row];
-        if (entry.hasThumbnail)
+    for (int row = 0; row < rowCount() && !m_loader->isLoading(); ++row) {
+        if (m_entries[row].hasThumbnail)
             continue;
-        entry.hasThumbnail = true;
-        entry.thumbnail = QIcon(makeThumbnail(entry.path));
-        Q_EMIT dataChanged(index(row), index(row));
-        return;
+        m_loading = m_entries[row].path;
+        m_loader->load(m_loading, emptyThumbnail().size());
     }
+}
+
+void PictureList::setThumbnail(const QImage& picture)
+{
+    // It may have been taken off the list, or have been analysed, meanwhile.
+    const int row = rowOf(m_loading);
+    if (row >= 0 && !m_entries[row].hasThumbnail)
+        showThumbnail(m_loading, thumbnailOf(picture));
+    loadNextThumbnail();
 }
 
 void PictureList::setAnalysis(const QString& path, const QImage& thumbnail, const QImage& waveform)
 {
+    showThumbnail(path, withWaveform(thumbnail, waveform));
+}
+
+void PictureList::showThumbnail(const QString& path, const QPixmap& thumbnail)
+{
     const int row = rowOf(path);
     if (row < 0)
         return;
-    m_entries[row].thumbnail = QIcon(withWaveform(thumbnail, waveform));
+    m_entries[row].thumbnail = QIcon(thumbnail);
     m_entries[row].hasThumbnail = true;
     Q_EMIT dataChanged(index(row), index(row));
 }

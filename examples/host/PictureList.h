@@ -7,9 +7,13 @@
 #include <QString>
 #include <QStringList>
 
+class QPixmap;
+
 namespace Norvane { namespace Host {
 
-/// The pictures opened so far, each once, with thumbnails that are made one by one while the program is idle.
+class PictureLoader;
+
+/// The pictures opened so far, each once, with thumbnails that are made one by one on a thread.
 class PictureList : public QAbstractListModel
 {
     Q_OBJECT
@@ -36,7 +40,8 @@ public Q_SLOTS:
     void setAnalysis(const QString& path, const QImage& thumbnail, const QImage& waveform);
 
 private Q_SLOTS:
-    void makeNextThumbnail();
+    /// Of the picture that was read last.
+    void setThumbnail(const QImage& picture);
 
 private:
     struct Entry {
@@ -45,8 +50,13 @@ private:
         bool hasThumbnail = false;
     };
     int rowOf(const QString& path) const;
+    void loadNextThumbnail();
+    void showThumbnail(const QString& path, const QPixmap& thumbnail);
 
     QList<Entry> m_entries;
+    PictureLoader* m_loader;
+    /// The path that it reads.
+    QString m_loading;
 };
 
 }} // namespace Norvane::Host

@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTimer>
 
 #include <cmath>
 
@@ -16,6 +17,7 @@ const qreal kSmallestZoom = 1 / 64.0;
 const qreal kLargestZoom = 64;
 const qreal kZoomStep = 1.25;
 const int kPanStep = 40;
+const int kMessageDelay = 150; // ms
 
 } // namespace
 
@@ -35,21 +37,30 @@ const QImage& PictureView::picture() const
 
 void PictureView::setPicture(const QImage& picture)
 {
-    m_picture = picture;
-    m_levels.clear();
-    m_panning = false;
-    if (m_fitted)
-        m_center = QPointF(picture.width(), picture.height()) / 2;
-    viewHasChanged();
-    Q_EMIT colorsChanged();
+    takePicture(picture);
+    setAccessibleDescription(QString());
+    update();
 }
 
 void PictureView::setMessage(const QString& title, const QString& detail)
 {
     m_title = title;
     m_detail = detail;
-    setAccessibleDescription(m_picture.isNull() ? title : QString());
-    update();
+    takePicture(QImage());
+    setAccessibleDescription(title);
+    QTimer::singleShot(kMessageDelay, this, SLOT(update()));
+}
+
+void PictureView::takePicture(const QImage& picture)
+{
+    m_picture = picture;
+    m_levels.clear();
+    m_panning = false;
+    if (m_fitted)
+        m_center = QPointF(picture.width(), picture.height()) / 2;
+    updateCursor();
+    Q_EMIT viewChanged();
+    Q_EMIT colorsChanged();
 }
 
 bool PictureView::isFitted() const
@@ -87,11 +98,6 @@ void PictureView::setGrade(const PictureGrade& grade)
     m_grade = grade;
     update();
     Q_EMIT colorsChanged();
-}
-
-QImage PictureView::gradedPicture()
-{
-    return m_grade.isNeutral() ? m_picture : gradedImage(levelFor(1), m_grade);
 }
 
 QSize PictureView::sizeHint() const

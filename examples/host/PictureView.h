@@ -23,8 +23,8 @@ public:
     const QImage& picture() const;
     /// Keeps zoom and centre, so that they may be set first.
     void setPicture(const QImage& picture);
-
-    /// What to tell while there is no picture.
+    /// Takes the picture away and tells this in its place. One that is followed by a picture at once is not
+    /// to be seen: the former picture is, until then.
     void setMessage(const QString& title, const QString& detail);
 
     bool isFitted() const;
@@ -37,8 +37,6 @@ public:
     /// How the picture is changed for the eye; picture() stays as it is.
     const PictureGrade& grade() const;
     void setGrade(const PictureGrade& grade);
-    /// The picture as it is seen.
-    QImage gradedPicture();
 
     QSize sizeHint() const override;
 
@@ -74,6 +72,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void takePicture(const QImage& picture);
     Placement placement() const;
     void zoomAround(const QPointF& viewPoint, qreal zoom);
     void pan(const QPointF& distance);

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QList>
@@ -37,9 +38,30 @@ QString canonicalPath(const QString& path)
 
 namespace {
 
-QImage readFrame(const FrameAddress& address, const QSize& largest, QString* problem)
+/// Tells its reader's progress, and comes to an end where the reader is to stop.
+class WatchedFile : public QFile
 {
-    const QImage frame = VideoFrames::read(address, problem);
+public:
+    WatchedFile(const QString& path, const WorkProgress& progress)
+        : QFile(path)
+        , m_progress(progress)
+    {
+    }
+
+protected:
+    qint64 readData(char* data, qint64 most) override
+    {
+        return m_progress(pos(), size()) ? QFile::readData(data, most) : -1;
+    }
+
+private:
+    const WorkProgress& m_progress;
+};
+
+QImage readFrame(const FrameAddress& address, const QSize& largest, QString* problem,
+                 const WorkProgress& progress)
+{
+    const QImage frame = VideoFrames::read(address, problem, progress);
     const bool fits = frame.width() <= largest.width() && frame.height() <= largest.height();
     return !largest.isValid() || fits ? frame
                                       : frame.scaled(largest, Qt::KeepAspectRatio, Qt::SmoothTransformation);
@@ -47,7 +69,7 @@ QImage readFrame(const FrameAddress& address, const QSize& largest, QString* pro
 
 } // namespace
 
-QImage read(const QString& path, const QSize& largest, QString* problem)
+QImage read(const QString& path, const QSize& largest, QString* problem, const WorkProgress& progress)
 {
     const FrameAddress address = FrameAddress::fromString(path);
     if (!QFileInfo(filePath(path)).isFile()) {
@@ -55,8 +77,14 @@ QImage read(const QString& path, const QSize& largest, QString* problem)
         return QImage();
     }
     if (!address.path.isNull())
-        return readFrame(address, largest, problem);
-    QImageReader reader(path);
+        return readFrame(address, largest, problem, progress);
+    WatchedFile file(path, progress);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *problem =
+            QCoreApplication::translate("Pictures", "The file cannot be read: %1.").arg(file.errorString());
+        return QImage();
+    }
+    QImageReader reader(&file);
     UI::setAutoTransform(&reader);
     // Files are what they hold, not what they are called.
     reader.setDecideFormatFromContent(true);

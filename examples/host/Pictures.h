@@ -1,5 +1,7 @@
 #pragma once
 
+#include "WorkProgress.h"
+
 #include <QImage>
 #include <QString>
 #include <QStringList>
@@ -20,8 +22,9 @@ QString filePath(const QString& path);
 QString canonicalPath(const QString& path);
 
 /// Reads the picture, turned as its camera was held; null, with a sentence in \a problem, if that fails. With
-/// a \a largest size the picture is shrunk to it while reading.
-QImage read(const QString& path, const QSize& largest, QString* problem);
+/// a \a largest size the picture is shrunk to it while reading. Any thread may read.
+QImage read(const QString& path, const QSize& largest, QString* problem,
+            const WorkProgress& progress = workToTheEnd);
 
 /// What files with pictures are called: "*.png" and so on.
 QStringList namePatterns();

@@ -119,7 +119,6 @@ void ScriptInterpreter::start()
         if (home.isEmpty())
             qputenv("PYTHONHOME", NORVANE_PYTHON_HOME);
         Py_InitializeEx(0);
-        UI::initializePythonThreads();
         qputenv("PYTHONHOME", home);
         PyEval_SaveThread();
     }

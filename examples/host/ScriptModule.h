@@ -1,6 +1,7 @@
 #pragma once
 
-#include <python/PythonVersion.h>
+// Before the headers of the standard library, as Python wants it.
+#include <Python.h>
 
 namespace Norvane { namespace Host {
 

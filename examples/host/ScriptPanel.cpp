@@ -199,16 +199,21 @@ void ScriptPanel::chooseScript()
     if (path.isEmpty())
         return;
     QSettings().setValue(folderKey, QFileInfo(path).path());
-    runFile(path, QDir::toNativeSeparators(path));
+    runFile(path);
 }
 
 void ScriptPanel::runExample(QAction* action)
 {
     const QString name = action->data().toString();
-    runFile(QLatin1String(":/scripts/") + name, name);
+    run(QLatin1String(":/scripts/") + name, name);
 }
 
-void ScriptPanel::runFile(const QString& path, const QString& name)
+void ScriptPanel::runFile(const QString& path)
+{
+    run(path, QDir::toNativeSeparators(path));
+}
+
+void ScriptPanel::run(const QString& path, const QString& name)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {

@@ -27,6 +27,10 @@ public:
     QString layoutState() const;
     void setLayoutState(const QString& text);
 
+public Q_SLOTS:
+    /// Runs the script in the file \a path, or tells that it cannot be read.
+    void runFile(const QString& path);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -42,7 +46,7 @@ private:
     QWidget* buildButtons();
     QWidget* buildPrompt();
     QToolButton* addButton(QWidget* row, const QString& text, const QString& help);
-    void runFile(const QString& path, const QString& name);
+    void run(const QString& path, const QString& name);
     void recall(int step);
     void showPrompt();
 

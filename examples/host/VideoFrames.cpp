@@ -1,5 +1,7 @@
 #include "VideoFrames.h"
 
+#include "FileReplacement.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QFile>
@@ -20,44 +22,51 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(VideoFrames)
 };
 
-/// The samples of a file, without the padding of rows.
-struct Samples {
-    FrameFormat format;
-    QByteArray bytes;
-    qint64 rowBytes = 0;
-
-    bool read(const FrameAddress& address, QString* problem);
-    /// Aligned for every layout: QByteArray's memory is, and rows are of whole samples.
-    const void* row(int y) const { return bytes.constData() + y * rowBytes; }
+/// The samples of a file, row by row.
+class Samples
+{
+public:
+    bool open(const FrameAddress& address, QString* problem);
+    /// The row \a y without its padding, until the next call. Null if the file has become shorter meanwhile.
+    /// Aligned for every layout: QByteArray's memory is.
+    const void* row(int y);
+    /// For the row converters.
     int count() const { return format.layout->rows.countsBytes ? int(format.rowBytes()) : format.width; }
+
+    FrameFormat format;
+
+private:
+    QFile m_file;
+    QByteArray m_row;
+    qint64 m_distance = 0;
 };
 
-bool Samples::read(const FrameAddress& address, QString* problem)
+bool Samples::open(const FrameAddress& address, QString* problem)
 {
-    QFile file(address.path);
     if (!FrameFormat::parse(address.format, &format, problem))
         return false;
-    if (!file.open(QIODevice::ReadOnly)) {
-        *problem = Texts::tr("The file cannot be read: %1.").arg(file.errorString());
+    m_file.setFileName(address.path);
+    if (!m_file.open(QIODevice::ReadOnly)) {
+        *problem = Texts::tr("The file cannot be read: %1.").arg(m_file.errorString());
         return false;
     }
-    rowBytes =
-        file.size() == format.height * format.paddedRowBytes() ? format.paddedRowBytes() : format.rowBytes();
-    if (file.size() != format.height * rowBytes) {
-        *problem = Texts::tr("The file has %1 bytes; a frame of %2 x %3 pixels in %4 has %5.")
-                       .arg(file.size())
-                       .arg(format.width)
-                       .arg(format.height)
-                       .arg(format.layout->name())
-                       .arg(format.height * rowBytes);
-        return false;
-    }
-    bytes = file.readAll();
-    if (bytes.size() < format.height * rowBytes) {
-        *problem = Texts::tr("The file ends too early.");
-        return false;
-    }
-    return true;
+    m_distance = format.rowDistance(m_file.size());
+    if (m_distance > 0)
+        return true;
+    *problem = Texts::tr("The file has %1 bytes; a frame of %2 x %3 pixels in %4 has %5.")
+                   .arg(m_file.size())
+                   .arg(format.width)
+                   .arg(format.height)
+                   .arg(format.layout->name())
+                   .arg(format.height * format.rowBytes());
+    return false;
+}
+
+const void* Samples::row(int y)
+{
+    m_file.seek(y * m_distance);
+    m_row = m_file.read(format.rowBytes());
+    return m_row.size() == format.rowBytes() ? m_row.constData() : nullptr;
 }
 
 int codeOf(float value)
@@ -91,10 +100,15 @@ struct Extremes {
 
 } // namespace
 
-QImage read(const FrameAddress& address, QString* problem)
+bool canRead(const FrameAddress& address, QString* problem)
+{
+    return Samples().open(address, problem);
+}
+
+QImage read(const FrameAddress& address, QString* problem, const WorkProgress& progress)
 {
     Samples samples;
-    if (!samples.read(address, problem))
+    if (!samples.open(address, problem))
         return QImage();
     const FrameFormat& format = samples.format;
     const QImage::Format pixels = format.layout->hasAlpha() ? QImage::Format_ARGB32 : QImage::Format_RGB32;
@@ -105,26 +119,34 @@ QImage read(const FrameAddress& address, QString* problem)
     }
     std::vector<float> rgba(std::size_t(format.width + 1) * 4);
     for (int y = 0; y < format.height; ++y) {
-        format.layout->rows.decode(samples.row(y), &rgba[3], &rgba[0], &rgba[1], &rgba[2], 4, samples.count(),
+        const void* const row = samples.row(y);
+        if (!row) {
+            *problem = Texts::tr("The file ends too early.");
+            return QImage();
+        }
+        format.layout->rows.decode(row, &rgba[3], &rgba[0], &rgba[1], &rgba[2], 4, samples.count(),
                                    inverseCoefficients(format.matrix));
         QRgb* const line = reinterpret_cast<QRgb*>(picture.scanLine(y));
         for (int x = 0; x < format.width; ++x) {
             const float* const pixel = &rgba[std::size_t(x) * 4];
             line[x] = qRgba(codeOf(pixel[0]), codeOf(pixel[1]), codeOf(pixel[2]), codeOf(pixel[3]));
         }
+        if (!progress(y + 1, format.height))
+            return QImage();
     }
     return picture;
 }
 
-bool write(const QImage& picture, FrameFormat format, const QString& path, QString* problem)
+bool write(const QImage& picture, FrameFormat format, const QString& path, QString* problem,
+           const WorkProgress& progress)
 {
     format.width = picture.width();
     format.height = picture.height();
     const QImage pixels = picture.convertToFormat(QImage::Format_ARGB32);
     std::vector<float> rgba(std::size_t(format.width) * 4);
     QByteArray row(int(format.paddedRowBytes()), '\0');
-    QFile file(path);
-    bool written = file.open(QIODevice::WriteOnly);
+    FileReplacement file(path);
+    bool written = file.open();
     for (int y = 0; written && y < format.height; ++y) {
         const QRgb* const line = reinterpret_cast<const QRgb*>(pixels.constScanLine(y));
         for (int x = 0; x < format.width; ++x) {
@@ -135,9 +157,10 @@ bool write(const QImage& picture, FrameFormat format, const QString& path, QStri
         format.layout->rows.encode(&rgba[3], &rgba[0], &rgba[1], &rgba[2], 4, row.data(), format.width,
                                    forwardMatrix(format.matrix));
         written = file.write(row) == row.size();
+        if (!progress(y + 1, format.height))
+            return false;
     }
-    // What is still in memory may not find room on the disk either.
-    if (written && file.flush())
+    if (written && file.commit())
         return true;
     *problem = file.errorString();
     return false;
@@ -147,7 +170,7 @@ Facts rangeFacts(const FrameAddress& address)
 {
     Samples samples;
     QString problem;
-    if (!samples.read(address, &problem))
+    if (!samples.open(address, &problem))
         return Facts();
     const FrameFormat& format = samples.format;
     const std::size_t width = std::size_t(format.width);
@@ -156,8 +179,10 @@ Facts rangeFacts(const FrameAddress& address)
     Extremes lumaEnds, chromaEnds;
     const int rows = qMin(kRowsForFacts, format.height);
     for (int i = 0; i < rows; ++i) {
-        format.layout->rows.unpack(samples.row(int(qint64(i) * format.height / rows)), nullptr, luma.data(),
-                                   cb.data(), cr.data(), 1, samples.count());
+        const void* const row = samples.row(int(qint64(i) * format.height / rows));
+        if (!row)
+            return Facts();
+        format.layout->rows.unpack(row, nullptr, luma.data(), cb.data(), cr.data(), 1, samples.count());
         for (std::vector<float>* const plane : {&luma, &cb, &cr})
             plane->back() = plane->front();
         lumaEnds.add(luma);

@@ -1,5 +1,6 @@
 #include "ViewerPanel.h"
 
+#include "PictureLoader.h"
 #include "Pictures.h"
 #include "PictureView.h"
 #include "StatusLine.h"
@@ -32,6 +33,7 @@ QToolButton* createButton(const QString& text, const QString& toolTip, QWidget* 
 ViewerPanel::ViewerPanel(int number, QWidget* parent)
     : QWidget(parent)
     , m_number(number)
+    , m_loader(new PictureLoader(this))
     , m_view(new PictureView(this))
     , m_status(new StatusLine(this))
     , m_fitButton(createButton(tr("Fit"), tr("Fit the picture into the panel (F)"), this))
@@ -60,6 +62,7 @@ ViewerPanel::ViewerPanel(int number, QWidget* parent)
     m_fitButton->setCheckable(true);
     setFocusProxy(m_view);
     setAcceptDrops(true);
+    connect(m_loader, SIGNAL(loaded(QImage, QString)), this, SLOT(takePicture(QImage, QString)));
     connect(m_view, SIGNAL(viewChanged()), this, SLOT(showView()));
     connect(m_view, SIGNAL(pixelPointed(QPoint)), this, SLOT(showPixel(QPoint)));
     connect(m_view, SIGNAL(pixelLeft()), this, SLOT(clearPixel()));
@@ -86,8 +89,12 @@ const QImage& ViewerPanel::picture() const
 
 void ViewerPanel::openPicture(const QString& path)
 {
-    m_view->fitToView();
-    setPicturePath(Pictures::canonicalPath(path));
+    const QString canonical = Pictures::canonicalPath(path);
+    if (canonical == m_path && m_loader->isLoading())
+        return;
+    if (!m_view->isFitted())
+        m_view->fitToView();
+    setPicturePath(canonical);
 }
 
 void ViewerPanel::replacePicture(const QString& path)
@@ -101,6 +108,7 @@ QString ViewerPanel::layoutState() const
     state.fitted = m_view->isFitted();
     state.zoom = m_view->zoom();
     state.center = m_view->center();
+    state.grade = m_view->grade();
     state.path = m_path;
     return state.toString();
 }
@@ -112,6 +120,7 @@ void ViewerPanel::setLayoutState(const QString& text)
         m_view->fitToView();
     else
         m_view->setZoom(state.zoom, state.center);
+    m_view->setGrade(state.grade);
     if (state.path != m_path)
         setPicturePath(state.path);
 }
@@ -119,34 +128,47 @@ void ViewerPanel::setLayoutState(const QString& text)
 void ViewerPanel::setPicturePath(const QString& path)
 {
     m_path = path;
-    m_isRead = false;
-    m_view->setPicture(QImage());
-    m_view->setMessage(QString(), QString());
-    updateTexts();
+    m_loader->cancel();
+    m_isWaitingToBeSeen = true;
     if (isVisible())
-        readPicture();
+        loadPicture();
+    else
+        showMessage(QString(), QString());
     Q_EMIT pictureChanged();
 }
 
 void ViewerPanel::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    if (m_isRead)
+    if (m_isWaitingToBeSeen)
+        loadPicture();
+}
+
+void ViewerPanel::loadPicture()
+{
+    m_isWaitingToBeSeen = false;
+    if (m_path.isEmpty()) {
+        showMessage(tr("Drop or open a picture"), tr("A double click here chooses a file."));
         return;
-    readPicture();
+    }
+    m_loader->load(m_path);
+    showMessage(Pictures::nameOf(m_path), tr("Loading..."));
+}
+
+void ViewerPanel::takePicture(const QImage& picture, const QString& problem)
+{
+    if (picture.isNull()) {
+        showMessage(tr("%1 cannot be shown").arg(Pictures::nameOf(m_path)), problem);
+    } else {
+        m_view->setPicture(picture);
+        updateTexts();
+    }
     Q_EMIT pictureChanged();
 }
 
-void ViewerPanel::readPicture()
+void ViewerPanel::showMessage(const QString& title, const QString& detail)
 {
-    m_isRead = true;
-    QString problem;
-    const QImage picture = m_path.isEmpty() ? QImage() : Pictures::read(m_path, QSize(), &problem);
-    m_view->setPicture(picture);
-    if (m_path.isEmpty())
-        m_view->setMessage(tr("Drop or open a picture"), tr("A double click here chooses a file."));
-    else
-        m_view->setMessage(tr("%1 cannot be shown").arg(Pictures::nameOf(m_path)), problem);
+    m_view->setMessage(title, detail);
     updateTexts();
 }
 
@@ -158,7 +180,9 @@ void ViewerPanel::updateTexts()
         setWindowTitle(m_number > 1 ? tr("Viewer %1").arg(m_number) : tr("Viewer"));
     else
         setWindowTitle(name);
-    if (picture.isNull())
+    if (m_loader->isLoading())
+        m_status->setName(tr("%1, loading...").arg(name));
+    else if (picture.isNull())
         m_status->setName(name);
     else
         m_status->setName(tr("%1, %2 x %3").arg(name).arg(picture.width()).arg(picture.height()));

@@ -10,12 +10,14 @@ class QToolButton;
 
 namespace Norvane { namespace Host {
 
+class PictureLoader;
 class PictureView;
 class StatusLine;
 
 /// A panel that shows one picture, with a status line below it. Pictures may be dropped onto it. The picture
-/// is read when the panel is first to be seen. The layout state is a ViewerState. A picture that cannot be
-/// read leaves a message; its path is kept, so that a layout is not spoilt by a disk that is not there today.
+/// is read on a thread, from when the panel is first to be seen. The layout state is a ViewerState. A picture
+/// that cannot be read leaves a message; its path is kept, so that a layout is not spoilt by a disk that is
+/// not there today.
 class ViewerPanel : public QWidget
 {
     Q_OBJECT
@@ -25,9 +27,9 @@ public:
     explicit ViewerPanel(int number, QWidget* parent = nullptr);
 
     QString picturePath() const;
-    /// Null until the panel has been seen, and if there is none that can be read.
+    /// Null until it has been read, and if there is none that can be read.
     const QImage& picture() const;
-    /// Fits the picture at \a path into the view.
+    /// Fits the picture at \a path into the view. The one that was asked for last comes.
     void openPicture(const QString& path);
 
     /// Shows the picture at \a path in the place of the present one: zoomed and graded like that.
@@ -53,18 +55,21 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private Q_SLOTS:
+    void takePicture(const QImage& picture, const QString& problem);
     void showView();
     void showPixel(const QPoint& pixel);
     void clearPixel();
 
 private:
     void setPicturePath(const QString& path);
-    void readPicture();
+    void loadPicture();
+    void showMessage(const QString& title, const QString& detail);
     void updateTexts();
 
     int m_number;
     QString m_path;
-    bool m_isRead = false;
+    bool m_isWaitingToBeSeen = true;
+    PictureLoader* m_loader;
     PictureView* m_view;
     StatusLine* m_status;
     QToolButton* m_fitButton;

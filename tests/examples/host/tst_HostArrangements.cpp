@@ -1,9 +1,11 @@
 #include <examples/host/ArrangementFolder.h>
 #include <examples/host/ArrangementMenu.h>
 #include <examples/host/CommandLine.h>
+#include <examples/host/FactsTable.h>
 #include <examples/host/HostWindow.h>
 #include <examples/host/LayoutStore.h>
 #include <examples/host/NotesPanel.h>
+#include <examples/host/ScriptPanel.h>
 #include <examples/host/ViewerPanel.h>
 
 #include <tests/support/Desk.h>
@@ -11,6 +13,8 @@
 
 #include <QAction>
 #include <QDir>
+#include <QLabel>
+#include <QPlainTextEdit>
 #include <QSettings>
 
 using namespace NorvaneTest;
@@ -29,9 +33,15 @@ private Q_SLOTS:
     void closedViewerComesBack();
     void ownArrangementIsShown();
     void brokenArrangementChangesNothing();
+    void newPanelJoinsItsNeighbours_data();
+    void newPanelJoinsItsNeighbours();
+    void panelsFollowTheFocusedViewer();
+    void scriptIsRunInItsPanel();
 
 private:
-    /// The entry of the menu with this text, mnemonic and all.
+    /// A window with two pictures, in the arrangement that is the first one.
+    void open(const QString& script);
+    /// The entry of any menu with this text, mnemonic and all.
     QAction* entry(const char* text) const;
     /// The panes of the main window.
     QString panes() const { return tree(m_window->rootSplitter()); }
@@ -53,10 +63,16 @@ void tst_HostArrangements::initTestCase()
 
 void tst_HostArrangements::init()
 {
+    open(QString());
+}
+
+void tst_HostArrangements::open(const QString& script)
+{
     m_window = new HostWindow;
     m_menu = m_window->findChild<ArrangementMenu*>();
     CommandLine commandLine;
     commandLine.fresh = true;
+    commandLine.scriptPath = script;
     for (const char* const name : {"Dunes.png", "StillLife.png"})
         commandLine.pictures.append(QDir(latin1(NORVANE_SAMPLES)).filePath(latin1(name)));
     m_window->start(commandLine);
@@ -82,7 +98,7 @@ void tst_HostArrangements::cleanupTestCase()
 
 QAction* tst_HostArrangements::entry(const char* text) const
 {
-    const QList<QAction*> entries = m_menu->actions();
+    const QList<QAction*> entries = m_window->findChildren<QAction*>();
     for (QAction* const action : entries) {
         if (action->text() == latin1(text))
             return action;
@@ -146,7 +162,7 @@ void tst_HostArrangements::ownArrangementIsShown()
     ArrangementFolder folder(ArrangementFolder::defaultPath());
     QVERIFY(folder.write(name, LayoutStore::layoutOf(m_window), &problem));
     entry("Side &by Side")->trigger();
-    QMetaObject::invokeMethod(m_window, "newViewer");
+    entry("New &Viewer")->trigger();
     QVERIFY(QMetaObject::invokeMethod(m_menu, "refresh"));
 
     QCOMPARE(entry("A && B")->shortcut(), QKeySequence(latin1("Ctrl+4")));
@@ -171,6 +187,59 @@ void tst_HostArrangements::brokenArrangementChangesNothing()
     QVERIFY2(closer.lastText().contains(latin1("2")), qPrintable(closer.lastText()));
     QCOMPARE(panes(), before);
     QVERIFY(folder.contains(latin1("Broken")));
+}
+
+void tst_HostArrangements::newPanelJoinsItsNeighbours_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("neighbour");
+    // The keyboard is in the first viewer.
+    QTest::newRow("where the user is") << QByteArray("New &Pictures") << "Pictures.2"
+                                       << "Viewer.1";
+    QTest::newRow("beside the viewer") << QByteArray("New &Viewer") << "Viewer.3"
+                                       << "Viewer.1";
+    QTest::newRow("not before the viewer") << QByteArray("New Contro&ls") << "Controls.1"
+                                           << "Pictures.1";
+    QTest::newRow("where lines have room") << QByteArray("New &Script") << "Script.1"
+                                           << "Notes.1";
+}
+
+void tst_HostArrangements::newPanelJoinsItsNeighbours()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, id);
+    QFETCH(QString, neighbour);
+    WAIT_FOR(m_window->windowTitle().startsWith(latin1("Dunes.png")));
+    entry(text.constData())->trigger();
+    const Dock* const pane = m_window->findDockByName(neighbour, true, false);
+    QCOMPARE(m_window->findDockByName(id, true, false), pane);
+    QCOMPARE(pane->currentWidget()->objectName(), id);
+}
+
+void tst_HostArrangements::panelsFollowTheFocusedViewer()
+{
+    entry("New &Inspector")->trigger();
+    const QLabel* const facts = m_window->findChild<FactsTable*>()->findChildren<QLabel*>()[1];
+    for (const char* const name : {"Dunes.png", "StillLife.png"}) {
+        const QList<ViewerPanel*> viewers = m_window->findChildren<ViewerPanel*>();
+        for (ViewerPanel* const viewer : viewers) {
+            if (viewer->windowTitle() == latin1(name))
+                viewer->setFocus();
+        }
+        WAIT_FOR(m_window->windowTitle().startsWith(latin1(name)));
+        QVERIFY(facts->text().startsWith(latin1(name)));
+    }
+}
+
+void tst_HostArrangements::scriptIsRunInItsPanel()
+{
+    cleanup();
+    const QString script = latin1("/no/such/script.py");
+    open(script);
+    QVERIFY(m_window->findDockByName(latin1("Script.1"), true, false));
+    const QPlainTextEdit* const output = m_window->findChild<ScriptPanel*>()->findChild<QPlainTextEdit*>();
+    WAIT_FOR(output->toPlainText().contains(QDir::toNativeSeparators(script)));
 }
 
 QTEST_MAIN(tst_HostArrangements)

@@ -169,6 +169,10 @@ void tst_HostFrames::writtenFramesAreRead()
     for (int i = 0; i < 14 * 3; ++i)
         QVERIFY(difference(read.pixel(i % 14, i / 14), picture.pixel(i % 14, i / 14)) <= 3);
     QVERIFY(!VideoFrames::write(picture, format, latin1("/no/such/folder/frame"), &problem));
+    const FrameFile former("former");
+    QVERIFY(
+        !VideoFrames::write(picture, format, former.path(), &problem, [](qint64, qint64) { return false; }));
+    QCOMPARE(int(QFileInfo(former.path()).size()), 6);
 }
 
 void tst_HostFrames::barsHaveTheirColours_data()
@@ -236,6 +240,7 @@ void tst_HostFrames::chosenMatrixIsUsed()
     ViewerPanel viewer(1);
     viewer.openPicture(file.as(latin1("CbYCrY8:2x1:Rec 709")).toString());
     viewer.show();
+    WAIT_FOR(!viewer.picture().isNull());
     QVERIFY(difference(viewer.picture().pixel(0, 0), qRgb(255, 0, 0)) <= 1);
     FrameInspector inspector(nullptr);
     inspector.setPicture(viewer.picturePath());
@@ -248,6 +253,7 @@ void tst_HostFrames::chosenMatrixIsUsed()
     QCOMPARE(changed[0][0].toString(), viewer.picturePath());
     viewer.view()->zoomTo(4);
     viewer.replacePicture(changed[0][1].toString());
+    WAIT_FOR(!viewer.picture().isNull());
     QVERIFY(difference(viewer.picture().pixel(0, 0), qRgb(255, 0, 0)) > 10);
     QCOMPARE(viewer.view()->zoom(), 4.0);
     inspector.setPicture(latin1("/some/picture.png"));

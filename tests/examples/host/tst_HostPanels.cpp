@@ -13,12 +13,13 @@
 #include <ui/sliders/Slider.h>
 #include <ui/toolkit/Painting.h>
 
+#include <tests/support/Waiting.h>
+
 #include <QDir>
 #include <QImage>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryFile>
-#include <QtTest>
 
 using namespace Norvane;
 using namespace Norvane::Host;
@@ -31,6 +32,8 @@ private Q_SLOTS:
     void viewerStateIsRead();
     void viewerStateIsWrittenAsRead_data();
     void viewerStateIsWrittenAsRead();
+    void impossibleGradeIsIgnored_data();
+    void impossibleGradeIsIgnored();
     void viewerKeepsStateOfMissingPicture();
     void viewerShowsPictureWhenSeen();
     void controlsActOnTheirViewer();
@@ -60,6 +63,7 @@ void tst_HostPanels::viewerStateIsRead_data()
     QTest::newRow("no number") << "big 1 2|/a" << true << 1.0 << QPointF() << "/a";
     QTest::newRow("no zoom at all") << "0 1 2|/a" << true << 1.0 << QPointF() << "/a";
     QTest::newRow("infinite") << "inf 1 2|/a" << true << 1.0 << QPointF() << "/a";
+    QTest::newRow("graded") << "1.5 20.25 -3;1 1 1 2|/a;b" << false << 1.5 << QPointF(20.25, -3) << "/a;b";
     QTest::newRow("empty") << "" << true << 1.0 << QPointF() << "";
 }
 
@@ -78,7 +82,25 @@ void tst_HostPanels::viewerStateIsWrittenAsRead_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("fitted") << "fit|/a/b.png";
     QTest::newRow("zoomed") << "0.125 1000.5 20|/a/b|c.png";
+    QTest::newRow("graded") << "fit;-1.5 1 0.9 1.25|/a;b.png";
+    QTest::newRow("zoomed and graded") << "2 3 4;8 0 1 1|/a/b.png";
     QTest::newRow("nothing") << "";
+}
+
+void tst_HostPanels::impossibleGradeIsIgnored_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("no number") << "fit;bright 1 1 1|/a";
+    QTest::newRow("a number is missing") << "fit;1 1 1|/a";
+    QTest::newRow("not finite") << "fit;inf 1 1 1|/a";
+    QTest::newRow("negative factor") << "fit;1 -1 1 1|/a";
+    QTest::newRow("beyond all light") << "fit;1e6 1 1 1|/a";
+}
+
+void tst_HostPanels::impossibleGradeIsIgnored()
+{
+    QFETCH(QString, text);
+    QCOMPARE(ViewerState::fromString(text).toString(), QString::fromLatin1("fit|/a"));
 }
 
 void tst_HostPanels::viewerStateIsWrittenAsRead()
@@ -110,7 +132,11 @@ void tst_HostPanels::viewerShowsPictureWhenSeen()
     viewer.openPicture(path);
     QCOMPARE(int(changes.size()), 1);
     viewer.resize(400, 300);
+    QVERIFY(viewer.picture().isNull());
     viewer.show();
+    QCOMPARE(viewer.findChild<PictureView*>()->accessibleDescription(), QFileInfo(path).fileName());
+    WAIT_FOR(!viewer.picture().isNull());
+    QCOMPARE(int(changes.size()), 2);
     QVERIFY(QFile::remove(path));
     const QImage shown = UI::grabPixmap(&viewer).toImage();
     QCOMPARE(shown.pixel(shown.width() / 2, shown.height() / 2 - 10), qRgb(10, 20, 30));
@@ -132,6 +158,7 @@ void tst_HostPanels::controlsActOnTheirViewer()
     viewer->resize(400, 300);
     viewer->show();
     viewer->openPicture(first.fileName());
+    WAIT_FOR(!viewer->picture().isNull());
     pictures.addPicture(first.fileName());
     pictures.addPicture(second.fileName());
     controls.setViewer(viewer.data());
@@ -145,6 +172,7 @@ void tst_HostPanels::controlsActOnTheirViewer()
     QCOMPARE(shown.pixel(shown.width() / 2, shown.height() / 2 - 10), qRgb(138, 138, 138));
     QTest::keyClick(sliders[1], Qt::Key_Right);
     QCOMPARE(QFileInfo(viewer->picturePath()), QFileInfo(second.fileName()));
+    WAIT_FOR(!viewer->picture().isNull());
     zoom->setRealValue(10);
     QCOMPARE(viewer->view()->zoom(), 10.0);
     viewer->view()->zoomTo(1);
@@ -174,6 +202,14 @@ void tst_HostPanels::colourGradesItsViewer()
     panel.setViewer(&first);
     wheel->getHSV(hue, saturation, value);
     QCOMPARE(value, 0.9f);
+    // A layout brings another grade.
+    first.setLayoutState(QLatin1String("fit;1 0.5 0.5 0.5|/no/such/Picture.png"));
+    panel.setViewer(&first);
+    wheel->getHSV(hue, saturation, value);
+    QCOMPARE(value, 0.5f);
+    QCOMPARE(first.layoutState(), QString::fromLatin1("fit;1 0.5 0.5 0.5|/no/such/Picture.png"));
+    first.setLayoutState(QString());
+    panel.setViewer(&first);
     panel.resetToDefault();
     QVERIFY(first.view()->grade().isNeutral());
     QVERIFY(second.view()->grade().isNeutral());
