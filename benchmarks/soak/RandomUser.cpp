@@ -195,7 +195,8 @@ RandomUser::Gesture RandomUser::typeText()
     if (!line)
         return Gesture();
     const QStringList texts = words("City e .png /tmp nothing");
-    return click(pointIn(line)) << words("key ctrl+a type --delay 5 --args 1") << texts[upTo(int(texts.size()))];
+    return click(pointIn(line)) << words("key ctrl+a type --delay 5 --args 1")
+                                << texts[upTo(int(texts.size()))];
 }
 
 RandomUser::Gesture RandomUser::runScript()
@@ -207,8 +208,8 @@ RandomUser::Gesture RandomUser::runScript()
     static const char* const lines[] = {"sum(range(100000))", "norvane.pictures()", "raise ValueError(1)",
                                         "import threading; threading.Thread(target=norvane.pictures).start()",
                                         "t = norvane.ProgressTask('Soak'); t.cancel(); del t"};
-    return click(pointIn(prompt)) << words("key ctrl+a type --delay 5 --args 1") << QString::fromLatin1(lines[upTo(5)])
-                                  << words("key Return");
+    return click(pointIn(prompt)) << words("key ctrl+a type --delay 5 --args 1")
+                                  << QString::fromLatin1(lines[upTo(5)]) << words("key Return");
 }
 
 // Pauses, resumes, cancels and clears, whichever button it meets.

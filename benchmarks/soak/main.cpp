@@ -13,6 +13,8 @@
 #include <examples/host/HostWindow.h>
 #include <examples/host/Palettes.h>
 
+#include <ui/progress/DialogProgressManager.h>
+
 #include <QAction>
 #include <QApplication>
 #include <QDir>
@@ -100,7 +102,8 @@ int main(int argc, char** argv)
     Host::CommandLine commandLine;
     commandLine.fresh = true;
     commandLine.layoutPath = QDir(folder).filePath(QLatin1String("session.layout"));
-    Host::HostWindow* const window = new Host::HostWindow;
+    UI::DialogProgressManager progress;
+    Host::HostWindow* const window = new Host::HostWindow(&progress);
     window->start(commandLine);
 
     openPanels(window);

@@ -76,6 +76,7 @@ void HostWindow::buildPanelsMenu()
 void HostWindow::buildTasksMenu()
 {
     QMenu* const menu = menuBar()->addMenu(tr("&Tasks"));
+    addEntry(menu, tr("&Show Tasks"), SLOT(showTasks()));
     addEntry(menu, tr("&Analyse Pictures"), SLOT(analysePictures()), tr("Ctrl+Shift+A"));
 }
 

@@ -148,9 +148,10 @@ void HostWindow::closeEvent(QCloseEvent* event)
             return;
         }
     }
-    // A dialog that was never shown has no place.
-    if (m_progress.progressWidget()->testAttribute(Qt::WA_WState_Created))
-        m_progress.saveState();
+    // A window that was never shown has no place; as a panel it is the layout's.
+    const QWidget* const tasks = m_progress->progressWidget();
+    if (tasks->isWindow() && tasks->testAttribute(Qt::WA_WState_Created))
+        m_progress->saveState();
     DockMainWindow::closeEvent(event);
 }
 

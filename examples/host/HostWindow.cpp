@@ -24,9 +24,9 @@ namespace Norvane { namespace Host {
 
 using UI::Dock;
 
-HostWindow::HostWindow()
+HostWindow::HostWindow(UI::ProgressManager* progress)
     : m_recorder(new ArrangementRecorder(this))
-    , m_progress(this)
+    , m_progress(progress)
     , m_analysis(PictureList::thumbnailSize() * 2)
     , m_scripts(&m_pictures)
     , m_panels(&m_pictures, &m_scripts)
@@ -38,6 +38,8 @@ HostWindow::HostWindow()
     setWhatsThis(
         tr("A pane. It holds panels as tabs, which can be dragged to other places of this pane, to another "
            "one, or out of the window."));
+    progress->deleteProgressWidget();
+    progress->createProgressWidget(this, tr("Tasks"), QString());
     applyOptions();
     buildMenus();
     showViewer(nullptr);
@@ -59,7 +61,9 @@ HostWindow::~HostWindow()
 
 QWidget* HostWindow::createPage(QString& id)
 {
-    return m_panels.panel(id);
+    // What is a window as a rule can be a panel as well.
+    QWidget* const tasks = m_progress->progressWidget();
+    return id == tasks->objectName() ? tasks : m_panels.panel(id);
 }
 
 void HostWindow::connectPanel(QWidget* panel)
@@ -136,6 +140,11 @@ void HostWindow::choosePictures()
         return;
     QSettings().setValue(folderKey, QFileInfo(paths.first()).path());
     openPictures(paths);
+}
+
+void HostWindow::showTasks()
+{
+    m_placer.show(m_progress->progressWidget());
 }
 
 void HostWindow::analysePictures()

@@ -9,7 +9,7 @@
 #include "ScriptInterpreter.h"
 
 #include <ui/docking/DockMainWindow.h>
-#include <ui/progress/DialogProgressManager.h>
+#include <ui/progress/ProgressManager.h>
 
 #include <QString>
 #include <QStringList>
@@ -35,7 +35,9 @@ class HostWindow : public UI::DockMainWindow
 {
     Q_OBJECT
 public:
-    HostWindow();
+    /// \a progress, not owned, is the manager of all tasks and lives longer. The window makes its dialog
+    /// anew.
+    explicit HostWindow(UI::ProgressManager* progress);
     ~HostWindow() override;
 
     /// Shows the window with the arrangement of the last session, or the default one, and opens what the user
@@ -57,6 +59,7 @@ private Q_SLOTS:
     void choosePictures();
     void openPicture(const QString& path);
     void openPictures(const QStringList& paths);
+    void showTasks();
     void analysePictures();
     void chooseFrame();
     void saveFrame();
@@ -129,7 +132,7 @@ private:
     /// Children of the window.
     ArrangementRecorder* m_recorder;
     ArrangementMenu* m_arrangementMenu = nullptr;
-    UI::DialogProgressManager m_progress;
+    UI::ProgressManager* const m_progress;
     /// The tasks of what follows are the manager's.
     struct ThreadsEnd {
         ~ThreadsEnd() { BackgroundJob::waitForAll(); }

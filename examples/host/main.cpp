@@ -4,6 +4,7 @@
 #include "Palettes.h"
 #include "ScriptInterpreter.h"
 
+#include <ui/progress/DialogProgressManager.h>
 #include <ui/toolkit/Application.h>
 #include <ui/widgets/AppSettings.h>
 
@@ -74,7 +75,8 @@ int main(int argc, char** argv)
         QApplication::setStyle(QLatin1String("Fusion"));
     Palettes::apply(commandLine.dark || QSettings().value(QLatin1String("Display/Dark")).toBool());
 
-    HostWindow* const window = new HostWindow;
+    UI::DialogProgressManager progress;
+    HostWindow* const window = new HostWindow(&progress);
     window->start(commandLine);
     const int status = QApplication::exec();
     if (ScriptInterpreter::hasThreadsLeft())

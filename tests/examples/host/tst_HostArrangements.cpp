@@ -8,6 +8,10 @@
 #include <examples/host/ScriptPanel.h>
 #include <examples/host/ViewerPanel.h>
 
+#include <ui/progress/DialogProgressManager.h>
+#include <ui/progress/ProgressDialog.h>
+#include <ui/progress/ProgressTask.h>
+
 #include <tests/support/Desk.h>
 #include <tests/support/MessageBoxCloser.h>
 
@@ -37,6 +41,7 @@ private Q_SLOTS:
     void newPanelJoinsItsNeighbours();
     void panelsFollowTheFocusedViewer();
     void scriptIsRunInItsPanel();
+    void tasksAreAWindowOrAPanel();
 
 private:
     /// A window with two pictures, in the arrangement that is the first one.
@@ -46,6 +51,7 @@ private:
     /// The panes of the main window.
     QString panes() const { return tree(m_window->rootSplitter()); }
 
+    UI::DialogProgressManager m_progress;
     QString m_folder;
     QPointer<HostWindow> m_window;
     QPointer<ArrangementMenu> m_menu;
@@ -68,7 +74,7 @@ void tst_HostArrangements::init()
 
 void tst_HostArrangements::open(const QString& script)
 {
-    m_window = new HostWindow;
+    m_window = new HostWindow(&m_progress);
     m_menu = m_window->findChild<ArrangementMenu*>();
     CommandLine commandLine;
     commandLine.fresh = true;
@@ -240,6 +246,27 @@ void tst_HostArrangements::scriptIsRunInItsPanel()
     QVERIFY(m_window->findDockByName(latin1("Script.1"), true, false));
     const QPlainTextEdit* const output = m_window->findChild<ScriptPanel*>()->findChild<QPlainTextEdit*>();
     WAIT_FOR(output->toPlainText().contains(QDir::toNativeSeparators(script)));
+}
+
+void tst_HostArrangements::tasksAreAWindowOrAPanel()
+{
+    QAction* const undo = entry("&Undo");
+    const QPointer<QWidget> tasks = m_window->findChild<UI::ProgressDialog*>();
+    QVERIFY(tasks->isWindow() && !tasks->isVisible());
+    entry("&Show Tasks")->trigger();
+    QVERIFY(!tasks->isWindow() && tasks->isVisible());
+    QCOMPARE(Dock::dockForWidget(tasks)->currentWidget(), tasks.data());
+    WAIT_FOR(undo->isEnabled());
+
+    undo->trigger();
+    WAIT_FOR(tasks && tasks->isWindow() && !tasks->isVisible());
+    entry("Re&do")->trigger();
+    QVERIFY(Dock::dockForWidget(tasks));
+    Dock::dockForWidget(tasks)->closeActiveTab();
+    WAIT_FOR(tasks && tasks->isWindow());
+    // It is a window again for the next task.
+    const UI::ProgressTask task(latin1("Long"), 10, 0);
+    WAIT_FOR(tasks->isVisible());
 }
 
 QTEST_MAIN(tst_HostArrangements)
