@@ -115,6 +115,8 @@ bool alike(float a, float b)
 
 QByteArray readLengths(std::size_t layout, const Arrangement& arrangement, bool unpack)
 {
+    if (layout >= rowLayouts().size())
+        return QByteArray();
     const RowExpectation& l = kExpectations[layout];
     GuardedMemory source(l.bytesRead(kMostPixels));
     const std::vector<unsigned char> samples = codes(l, 4096);
@@ -174,6 +176,8 @@ QByteArray writeLengths(std::size_t layout, const Arrangement& arrangement)
 
 QByteArray readCodes(std::size_t layout, const Arrangement& arrangement, bool unpack)
 {
+    if (layout >= rowLayouts().size())
+        return QByteArray();
     const RowExpectation& l = kExpectations[layout];
     const int groups = l.type == kSample8 || l.type == kSample10 ? 4096 : 65536 + 4096;
     const int pixels = groups * (l.pairs ? 2 : 1);

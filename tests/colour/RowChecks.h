@@ -9,7 +9,7 @@
 namespace NorvaneTest {
 
 // Comparisons of the library's row functions with kExpectations, whose index a layout is. Each tells where
-// the first difference is, or nothing.
+// the first difference is, or nothing. Nothing is wrong with reading a layout that can only be encoded.
 
 /// Rows of every length, in memory exactly as long as they are.
 QByteArray readLengths(std::size_t layout, const Arrangement& arrangement, bool unpack);

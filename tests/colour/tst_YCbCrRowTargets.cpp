@@ -91,15 +91,14 @@ void tst_YCbCrRowTargets::rowIsConverted()
     QFETCH(int, layout);
     choose(target);
     const std::size_t number = static_cast<std::size_t>(layout);
-    const bool reads = number < rowLayouts().size();
     QCOMPARE(writeValues(number, kArrangements[0]), QByteArray());
     for (const bool unpack : {false, true})
-        QVERIFY(!reads || readCodes(number, kArrangements[0], unpack).isEmpty());
+        QCOMPARE(readCodes(number, kArrangements[0], unpack), QByteArray());
     // The first three are those that vectors read and write.
     for (int i = 0; i < 3; ++i) {
         QCOMPARE(writeLengths(number, kArrangements[i]), QByteArray());
         for (const bool unpack : {false, true})
-            QVERIFY(!reads || readLengths(number, kArrangements[i], unpack).isEmpty());
+            QCOMPARE(readLengths(number, kArrangements[i], unpack), QByteArray());
     }
 }
 

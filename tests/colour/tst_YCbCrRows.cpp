@@ -54,7 +54,7 @@ void tst_YCbCrRows::rowIsConverted()
     const Arrangement& planes = kArrangements[arrangement];
     QCOMPARE(writeLengths(number, planes), QByteArray());
     for (const bool unpack : {false, true})
-        QVERIFY(number >= rowLayouts().size() || readLengths(number, planes, unpack).isEmpty());
+        QCOMPARE(readLengths(number, planes, unpack), QByteArray());
 }
 
 QTEST_APPLESS_MAIN(tst_YCbCrRows)
