@@ -238,8 +238,11 @@ void RowExpectation::encode(const float* rgba, int pixels, const float m[9], voi
         if (pairs && pixel % 2 == 1)
             continue;
         const float* const second = pairs && pixel + 1 < pixels ? rgb + 4 : rgb;
-        code(row, index(pixel, cb), codedCb, (dot(m + 3, rgb) + dot(m + 3, second)) * 0.5f);
-        code(row, index(pixel, cr), codedCr, (dot(m + 6, rgb) + dot(m + 6, second)) * 0.5f);
+        const auto chroma = [&](const float matrixRow[3]) {
+            return pairs ? (dot(matrixRow, rgb) + dot(matrixRow, second)) * 0.5f : dot(matrixRow, rgb);
+        };
+        code(row, index(pixel, cb), codedCb, chroma(m + 3));
+        code(row, index(pixel, cr), codedCr, chroma(m + 6));
     }
 }
 

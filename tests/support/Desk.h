@@ -137,16 +137,17 @@ public:
 
     bool show() { return activate(window); }
 
-    /// Shows \a widget's window and waits until it has the keyboard. The request is that of a task list, which
-    /// a window manager follows whatever it thinks of the time of the last key; one that comes before the
-    /// window does is lost, and a window that is shown at the same time may take the keyboard back.
+    /// Shows \a widget's window and waits until it has the keyboard. The request is that of a task list,
+    /// which a window manager follows whatever it thinks of the time of the last key; one that comes before
+    /// the window does is lost, and a window that is shown at the same time may take the keyboard back.
     static bool activate(QWidget* widget)
     {
         QWidget* const window = widget->window();
         window->show();
         window->raise();
-        const QStringList request = QStringList() << latin1("windowactivate")
-                                                  << QString::number(static_cast<qulonglong>(window->winId()));
+        const QStringList request = QStringList()
+                                    << latin1("windowactivate")
+                                    << QString::number(static_cast<qulonglong>(window->winId()));
         const auto isActive = [&] { return QApplication::activeWindow() == window; };
         for (int attempt = 0; attempt < 20 && !isActive(); ++attempt) {
             QProcess::execute(latin1("xdotool"), request);
@@ -169,6 +170,17 @@ public:
         QBuffer buffer(&document);
         buffer.open(QIODevice::ReadOnly);
         return window->restoreLayout(&buffer, fitMainWindowToScreen);
+    }
+
+    /// Those that are still there.
+    QList<QWidget*> panels() const
+    {
+        QList<QWidget*> living;
+        for (const QPointer<QWidget>& panel : m_panels) {
+            if (panel)
+                living.append(panel);
+        }
+        return living;
     }
 
     /// The main window's panes, then those of each floating window, as tree() has them.

@@ -7,6 +7,8 @@
 #include <QHash>
 #include <QStackedWidget>
 
+#include <functional>
+
 namespace NorvaneTest {
 
 /// Keeps account of what a main window's signals say about its panels, and finds what is wrong with an
@@ -25,6 +27,10 @@ public:
         connect(mainWindow, SIGNAL(widgetActivated(Norvane::UI::Dock*, QWidget*)), this,
                 SLOT(activate(Norvane::UI::Dock*, QWidget*)));
     }
+
+    enum Report { kAdded, kRemoved, kActivated };
+    /// Called at the end of every report, as another slot of the host's would be.
+    std::function<void(Report, Dock*, QWidget*)> whenReported = [](Report, Dock*, QWidget*) {};
 
     /// What is wrong now, one sentence each. \a home may hold panels that are in no pane.
     QStringList problems(const Panels& panels, const QWidget* home = nullptr)
@@ -50,6 +56,7 @@ private Q_SLOTS:
         m_account.insert(widget, dock);
         m_announced.remove(widget);
         connect(widget, SIGNAL(destroyed(QObject*)), this, SLOT(forget(QObject*)), Qt::UniqueConnection);
+        whenReported(kAdded, dock, widget);
     }
 
     void remove(Norvane::UI::Dock* dock, QWidget* widget)
@@ -58,6 +65,7 @@ private Q_SLOTS:
                "reported as removed from a pane where it was not: ", widget);
         m_account.remove(widget);
         m_announced.remove(widget);
+        whenReported(kRemoved, dock, widget);
     }
 
     void activate(Norvane::UI::Dock* dock, QWidget* widget)
@@ -67,6 +75,7 @@ private Q_SLOTS:
             m_announced.insert(widget, dock);
             connect(widget, SIGNAL(destroyed(QObject*)), this, SLOT(forget(QObject*)), Qt::UniqueConnection);
         }
+        whenReported(kActivated, dock, widget);
     }
 
     void forget(QObject* widget)
@@ -127,7 +136,9 @@ private:
             expect(!panel->parentWidget() || panel->parentWidget() == m_home,
                    "in no pane, nor the host's: ", panel);
             expect(panel->parentWidget() || !panel->isVisible(), "with the host but shown: ", panel);
-            expect(!(panel->windowFlags() & Qt::WindowStaysOnTopHint), "still a dragged window: ", panel);
+            const bool isPlain = !(panel->windowFlags() & Qt::WindowStaysOnTopHint) &&
+                                 (panel->parentWidget() || panel->windowType() == Qt::Window);
+            expect(isPlain, "still a dragged window: ", panel);
             expect(!m_mainWindow || !m_account.contains(panel), "its removal was not reported: ", panel);
         }
         expect(holders <= 1, "in several panes: ", panel);

@@ -18,42 +18,78 @@ QString arrangement(const DockMainWindow* mainWindow)
 } // namespace
 
 const DockWalk::Operation DockWalk::kOperations[] = {
-    {"make panel", 10, &DockWalk::makePanel},
-    {"insert panel", 8, &DockWalk::insertPanel},
-    {"move panel", 5, &DockWalk::movePanel},
-    {"replace place holder", 2, &DockWalk::replacePlaceHolder},
-    {"new pane", 2, &DockWalk::newPane},
-    {"close tab", 6, &DockWalk::closeTab},
-    {"close pane", 3, &DockWalk::closePane},
-    {"close window", 2, &DockWalk::closeWindow},
-    {"solo tab", 2, &DockWalk::soloTab},
-    {"change refusal", 3, &DockWalk::changeRefusal},
-    {"rename panel", 2, &DockWalk::renamePanel},
-    {"choose tab", 5, &DockWalk::chooseTab},
-    {"split", 6, &DockWalk::split},
-    {"transpose", 2, &DockWalk::transpose},
-    {"expand", 3, &DockWalk::expand},
-    {"float tab", 4, &DockWalk::floatTab},
-    {"float pane", 2, &DockWalk::floatPane},
-    {"drag to pane", 8, &DockWalk::dragToPane},
-    {"drag to border", 5, &DockWalk::dragToBorder},
-    {"drag nowhere", 4, &DockWalk::dragNowhere},
-    {"drag and escape", 4, &DockWalk::dragAndEscape},
-    {"drag in title", 6, &DockWalk::dragInTitle},
-    {"control click", 2, &DockWalk::controlClick},
-    {"move window", 3, &DockWalk::moveWindow},
-    {"toggle option", 4, &DockWalk::toggleOption},
-    {"toggle title", 3, &DockWalk::toggleTitle},
-    {"save", 2, &DockWalk::save},
-    {"restore", 2, &DockWalk::restore},
-    {"save and restore", 3, &DockWalk::saveAndRestore},
-    {"destroy panel", 2, &DockWalk::destroyPanel},
-    {"destroy pane", 2, &DockWalk::destroyPane},
-    {"destroy window", 1, &DockWalk::destroyWindow},
-    {"take panel home", 3, &DockWalk::takePanelHome},
+    {"make panel", 10, [](DockWalk& w) { w.makePanel(); }},
+    {"insert panel", 8, [](DockWalk& w) { w.insertPanel(); }},
+    {"move panel", 5,
+     [](DockWalk& w) {
+         if (Panel* const panel = w.anyPanel())
+             w.anyPane()->insertWidget(-1, panel);
+     }},
+    {"replace place holder", 2, [](DockWalk& w) { w.replacePlaceHolder(); }},
+    {"new pane", 2, [](DockWalk& w) { w.newPane(); }},
+    {"close tab", 6, [](DockWalk& w) { w.closeTab(); }},
+    {"close pane", 3, [](DockWalk& w) { w.anyPane()->close(); }},
+    {"close window", 2,
+     [](DockWalk& w) {
+         if (DockWindow* const window = w.anyFloatingWindow())
+             window->close();
+     }},
+    {"solo tab", 2, [](DockWalk& w) { w.anyPane()->closeInactiveTabs(); }},
+    {"change refusal", 3,
+     [](DockWalk& w) {
+         if (Panel* const panel = w.anyPanel())
+             panel->refuses = w.oneIn(3);
+     }},
+    {"rename panel", 2, [](DockWalk& w) { w.renamePanel(); }},
+    {"choose tab", 5, [](DockWalk& w) { w.chooseTab(); }},
+    {"split", 6,
+     [](DockWalk& w) {
+         if (w.m_mainWindow->docks().size() < kMostPanes)
+             w.anyPane()->split(w.oneIn(2) ? Qt::Horizontal : Qt::Vertical, w.oneIn(2));
+     }},
+    {"transpose", 2, [](DockWalk& w) { w.anyPane()->transposeDock(); }},
+    {"expand", 3,
+     [](DockWalk& w) {
+         Dock* const pane = w.anyPane();
+         pane->setExpanded(!pane->isExpanded());
+     }},
+    {"float tab", 4,
+     [](DockWalk& w) {
+         if (w.m_mainWindow->floatingWindows().size() < kMostWindows)
+             w.anyPane()->floatActiveTab();
+     }},
+    {"float pane", 2,
+     [](DockWalk& w) {
+         if (w.m_mainWindow->floatingWindows().size() < kMostWindows)
+             w.anyPane()->floatDock();
+     }},
+    {"drag to pane", 8, [](DockWalk& w) { w.dragToPane(); }},
+    {"drag to border", 5, [](DockWalk& w) { w.dragToBorder(); }},
+    {"drag nowhere", 4, [](DockWalk& w) { w.dragNowhere(); }},
+    {"drag and escape", 4, [](DockWalk& w) { w.dragAndEscape(); }},
+    {"drag in title", 6, [](DockWalk& w) { w.dragInTitle(); }},
+    {"control click", 2, [](DockWalk& w) { w.controlClick(); }},
+    {"move window", 3, [](DockWalk& w) { w.moveWindow(); }},
+    {"toggle option", 4, [](DockWalk& w) { w.toggleOption(); }},
+    {"toggle title", 3,
+     [](DockWalk& w) {
+         Dock* const pane = w.anyPane();
+         pane->setTitleVisible(!pane->titleVisible());
+     }},
+    {"save", 2, [](DockWalk& w) { w.save(); }},
+    {"restore", 2, [](DockWalk& w) { w.restore(); }},
+    {"save and restore", 3, [](DockWalk& w) { w.saveAndRestore(); }},
+    {"destroy panel", 2, [](DockWalk& w) { delete w.anyPanel(); }},
+    {"destroy pane", 2, [](DockWalk& w) { delete w.anyPane(); }},
+    {"destroy window", 1, [](DockWalk& w) { delete w.anyFloatingWindow(); }},
+    {"take panel home", 3,
+     [](DockWalk& w) {
+         if (Panel* const panel = w.anyPanel())
+             panel->setParent(w.oneIn(2) ? &w.m_home : nullptr);
+     }},
 };
 
-DockWalk::DockWalk(unsigned seed)
+DockWalk::DockWalk(unsigned seed, bool meddles)
     : m_random(seed)
     , m_mainWindow(new DockHost(m_panels))
     , m_ledger(m_mainWindow)
@@ -62,6 +98,10 @@ DockWalk::DockWalk(unsigned seed)
     newPane();
     m_mainWindow->show();
     settle();
+    if (meddles)
+        m_ledger.whenReported = [this](DockLedger::Report report, Dock* pane, QWidget* panel) {
+            meddle(report, pane, panel);
+        };
 }
 
 DockWalk::~DockWalk()
@@ -81,13 +121,15 @@ QStringList DockWalk::step()
     m_operation = latin1(operation->name);
     if (m_mainWindow->docks().isEmpty())
         newPane();
-    (this->*operation->run)();
+    m_hasMeddled = false;
+    operation->run(*this);
     settle();
     return m_problems + m_ledger.problems(m_panels, &m_home);
 }
 
 QStringList DockWalk::finish()
 {
+    m_hasMeddled = false;
     m_mainWindow->close();
     settle();
     expect(!m_mainWindow, "the main window is not gone");
@@ -96,8 +138,66 @@ QStringList DockWalk::finish()
 
 void DockWalk::expect(bool holds, const char* problem)
 {
-    if (!holds)
+    if (!holds && !m_hasMeddled)
         m_problems.append(QLatin1String(problem));
+}
+
+// Not in answer to the reports that an answer brings about.
+void DockWalk::meddle(DockLedger::Report report, Dock* pane, QWidget* panel)
+{
+    // A window that is being destroyed is a plain widget by now.
+    QPointer<DockWindow> window(qobject_cast<DockWindow*>(pane->window()));
+    if (m_isMeddling || !window || !m_mainWindow || !oneIn(6))
+        return;
+    if (window == m_mainWindow)
+        window = anyFloatingWindow();
+    QWidget* const current = pane->currentWidget();
+    m_isMeddling = m_hasMeddled = true;
+    switch (random(12)) {
+    case 0:
+        pane->close();
+        break;
+    case 1:
+        pane->closeTab(0);
+        break;
+    case 2:
+        pane->closeInactiveTabs();
+        break;
+    case 3:
+        if (window)
+            window->close();
+        break;
+    case 4:
+        pane->deleteLater();
+        break;
+    case 5:
+        if (window)
+            window->deleteLater();
+        break;
+    case 6:
+        if (panel)
+            panel->deleteLater();
+        break;
+    case 7:
+        pane->floatActiveTab();
+        break;
+    case 8:
+        pane->floatDock();
+        break;
+    case 9:
+        if (current)
+            current->setParent(&m_home);
+        break;
+    case 10:
+        if (current && !m_mainWindow->docks().isEmpty())
+            anyPane()->addWidget(current, true, false);
+        break;
+    default:
+        // Qt itself is still at work on a panel that gets another parent.
+        if (report == DockLedger::kRemoved && m_operation != latin1("take panel home"))
+            delete panel;
+    }
+    m_isMeddling = false;
 }
 
 Dock* DockWalk::anyPane()
@@ -151,23 +251,19 @@ void DockWalk::insertPanel()
         pane->addWidget(panel, true, false);
 }
 
-void DockWalk::movePanel()
-{
-    if (Panel* const panel = anyPanel())
-        anyPane()->insertWidget(-1, panel);
-}
-
 void DockWalk::replacePlaceHolder()
 {
-    Panel* const panel = homelessPanel();
+    const QPointer<Panel> panel(homelessPanel());
     Dock* const pane = anyPane();
     const QWidget* const placeHolder = pane->restorePlaceHolderForWidget(panel);
-    if (!placeHolder)
+    if (m_hasMeddled && panel && !panel->parentWidget())
+        panel->hide();
+    if (!placeHolder || m_hasMeddled)
         return;
     const int index = pane->count() - 1;
     expect(pane->widget(index) == placeHolder, "the place holder is not in the pane");
     pane->addWidget(panel, oneIn(2), false);
-    expect(pane->widget(index) == panel, "the panel is not where its place holder was");
+    expect(m_hasMeddled || pane->widget(index) == panel, "the panel is not where its place holder was");
 }
 
 void DockWalk::newPane()
@@ -182,28 +278,6 @@ void DockWalk::closeTab()
     const QPointer<Panel> panel(dynamic_cast<Panel*>(pane->widget(tab)));
     pane->closeTab(tab);
     expect(!panel || panel->refuses == (Dock::dockForWidget(panel) == pane), "a refusal is not respected");
-}
-
-void DockWalk::closePane()
-{
-    anyPane()->close();
-}
-
-void DockWalk::closeWindow()
-{
-    if (DockWindow* const window = anyFloatingWindow())
-        window->close();
-}
-
-void DockWalk::soloTab()
-{
-    anyPane()->closeInactiveTabs();
-}
-
-void DockWalk::changeRefusal()
-{
-    if (Panel* const panel = anyPanel())
-        panel->refuses = oneIn(3);
 }
 
 void DockWalk::renamePanel()
@@ -232,35 +306,6 @@ void DockWalk::chooseTab()
     }
 }
 
-void DockWalk::split()
-{
-    if (m_mainWindow->docks().size() < kMostPanes)
-        anyPane()->split(oneIn(2) ? Qt::Horizontal : Qt::Vertical, oneIn(2));
-}
-
-void DockWalk::transpose()
-{
-    anyPane()->transposeDock();
-}
-
-void DockWalk::expand()
-{
-    Dock* const pane = anyPane();
-    pane->setExpanded(!pane->isExpanded());
-}
-
-void DockWalk::floatTab()
-{
-    if (m_mainWindow->floatingWindows().size() < kMostWindows)
-        anyPane()->floatActiveTab();
-}
-
-void DockWalk::floatPane()
-{
-    if (m_mainWindow->floatingWindows().size() < kMostWindows)
-        anyPane()->floatDock();
-}
-
 void DockWalk::moveWindow()
 {
     QWidget* const window = anyPane()->window();
@@ -283,12 +328,6 @@ void DockWalk::toggleOption()
     default:
         return window->setTabsAreClosable(!window->tabsAreClosable());
     }
-}
-
-void DockWalk::toggleTitle()
-{
-    Dock* const pane = anyPane();
-    pane->setTitleVisible(!pane->titleVisible());
 }
 
 void DockWalk::save()
@@ -314,27 +353,6 @@ void DockWalk::saveAndRestore()
     restore();
     const QString after = arrangement(m_mainWindow);
     expect(before == after, qPrintable(before + latin1(" came back as ") + after));
-}
-
-void DockWalk::destroyPanel()
-{
-    delete anyPanel();
-}
-
-void DockWalk::destroyPane()
-{
-    delete anyPane();
-}
-
-void DockWalk::destroyWindow()
-{
-    delete anyFloatingWindow();
-}
-
-void DockWalk::takePanelHome()
-{
-    if (Panel* const panel = anyPanel())
-        panel->setParent(oneIn(2) ? &m_home : nullptr);
 }
 
 } // namespace NorvaneTest

@@ -14,7 +14,9 @@ const int kMostWindows = 4;
 class DockWalk
 {
 public:
-    explicit DockWalk(unsigned seed);
+    /// A host that meddles closes and destroys panes, panels and windows in the middle of whatever reports to
+    /// it.
+    DockWalk(unsigned seed, bool meddles);
     ~DockWalk();
 
     /// What is wrong after this step.
@@ -28,7 +30,7 @@ private:
     struct Operation {
         const char* name;
         int weight;
-        void (DockWalk::*run)();
+        void (*run)(DockWalk& walk);
     };
     static const Operation kOperations[];
 
@@ -41,24 +43,15 @@ private:
     QPoint anyPoint();
     bool chooseTabToDrag();
     void expect(bool holds, const char* problem);
+    void meddle(DockLedger::Report report, Dock* pane, QWidget* panel);
 
     void makePanel();
     void insertPanel();
-    void movePanel();
     void replacePlaceHolder();
     void newPane();
     void closeTab();
-    void closePane();
-    void closeWindow();
-    void soloTab();
-    void changeRefusal();
     void renamePanel();
     void chooseTab();
-    void split();
-    void transpose();
-    void expand();
-    void floatTab();
-    void floatPane();
     void dragToPane();
     void dragToBorder();
     void dragNowhere();
@@ -67,14 +60,9 @@ private:
     void controlClick();
     void moveWindow();
     void toggleOption();
-    void toggleTitle();
     void save();
     void restore();
     void saveAndRestore();
-    void destroyPanel();
-    void destroyPane();
-    void destroyWindow();
-    void takePanelHome();
 
     std::mt19937 m_random;
     Panels m_panels;
@@ -85,6 +73,9 @@ private:
     int m_tab = 0;
     QByteArray m_saved;
     int m_made = 0;
+    bool m_isMeddling = false;
+    /// In this step, whose operation need not come to its usual end then.
+    bool m_hasMeddled = false;
     QString m_operation;
     QStringList m_problems;
 };

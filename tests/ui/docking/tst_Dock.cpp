@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QFile>
 #include <QMenu>
-#include <QMetaProperty>
 
 using namespace NorvaneTest;
 
@@ -13,7 +12,6 @@ class tst_Dock : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void metaObjectHasOrder();
     void menuHasEntries();
     void showTabsTogglesTitle();
     void singleTabIsHidden();
@@ -21,24 +19,6 @@ private Q_SLOTS:
     void titlesFollowPanels();
     void layoutIsDumped();
 };
-
-void tst_Dock::metaObjectHasOrder()
-{
-    const char* const methods[] = {
-        "mouseOver(bool)",  "splitHorizontal()",     "splitVertical()",     "floatDock()",
-        "floatActiveTab()", "closeActiveTab()",      "closeInactiveTabs()", "closeTab(int)",
-        "removeTab(int)",   "showTab(int)",          "transposeDock()",     "fullscreenDock()",
-        "dumpLayout()",     "setTitleVisible(bool)", "updateTitles()",      "nextTab()",
-        "prevTab()"};
-    const QMetaObject& meta = Dock::staticMetaObject;
-    int index = meta.methodOffset();
-    for (const char* const method : methods)
-        QCOMPARE(meta.indexOfMethod(method), index++);
-    QCOMPARE(meta.methodCount(), index);
-    QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 1);
-    QCOMPARE(meta.property(meta.propertyOffset()).name(), "titleVisible");
-    QCOMPARE(meta.className(), "Norvane::UI::Dock");
-}
 
 void tst_Dock::menuHasEntries()
 {

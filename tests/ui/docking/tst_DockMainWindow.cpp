@@ -12,7 +12,6 @@ class tst_DockMainWindow : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { QCursor::setPos(5, 5); }
-    void metaObjectHasOrder();
     void actionsAreMade_data();
     void actionsAreMade();
     void focusMovesThroughPanes();
@@ -20,27 +19,7 @@ private Q_SLOTS:
     void focusOutsidePanesStays();
     void focusActivatesCurrentTab();
     void floatingWindowIsRegistered();
-    void closingClosesFloatingWindows();
 };
-
-void tst_DockMainWindow::metaObjectHasOrder()
-{
-    const char* const methods[] = {"widgetAdded(Norvane::UI::Dock*,QWidget*)",
-                                   "widgetRemoved(Norvane::UI::Dock*,QWidget*)",
-                                   "widgetActivated(Norvane::UI::Dock*,QWidget*)",
-                                   "updateMoskScriptName(QString)",
-                                   "nextDock()",
-                                   "prevDock()",
-                                   "nextTab()",
-                                   "prevTab()",
-                                   "focusChanged(QWidget*,QWidget*)"};
-    const QMetaObject& meta = DockMainWindow::staticMetaObject;
-    int index = meta.methodOffset();
-    for (const char* const method : methods)
-        QCOMPARE(meta.indexOfMethod(method), index++);
-    QCOMPARE(meta.methodCount(), index);
-    QCOMPARE(meta.className(), "Norvane::UI::DockMainWindow");
-}
 
 void tst_DockMainWindow::actionsAreMade_data()
 {
@@ -203,18 +182,6 @@ void tst_DockMainWindow::floatingWindowIsRegistered()
 
     QWidget withoutSizeHint;
     QVERIFY(!desk.window->addNewFloatingDock(&withoutSizeHint)->size().isEmpty());
-}
-
-void tst_DockMainWindow::closingClosesFloatingWindows()
-{
-    Desk desk;
-    desk.pane("A");
-    Dock* const floating = desk.floatingPane("B");
-    const QPointer<QWidget> panel(floating->widget(0));
-    QVERIFY(desk.show());
-    QVERIFY(desk.window->close());
-    WAIT_FOR(!desk.window);
-    QVERIFY(panel && !panel->parentWidget() && !panel->isVisible());
 }
 
 QTEST_MAIN(tst_DockMainWindow)

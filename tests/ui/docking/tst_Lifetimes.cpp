@@ -50,7 +50,6 @@ private Q_SLOTS:
     void initTestCase() { QCursor::setPos(5, 5); }
     void everyOrderOfDestruction_data();
     void everyOrderOfDestruction();
-    void refusingPanelOutlivesItsWindow();
     void refusingPanelsOutliveTheMainWindow();
     void panesOutliveTheMainWindow();
     void windowsOutliveTheMainWindow();
@@ -61,7 +60,6 @@ private Q_SLOTS:
     void paneDiesWithTheFocusInIt_data();
     void paneDiesWithTheFocusInIt();
     void windowsCloseWhileALayoutIsRestored();
-    void placeHoldersDieWithTheirPane();
 
     // Not tests: what timers call.
 public Q_SLOTS:
@@ -119,16 +117,6 @@ void tst_Lifetimes::everyOrderOfDestruction()
     }
     QVERIFY(!scene.mainWindow && !scene.floatingWindow && !scene.floating && !scene.left && !scene.right);
     QCOMPARE(scene.panel("A") != nullptr, !deleteOnClose);
-}
-
-void tst_Lifetimes::refusingPanelOutlivesItsWindow()
-{
-    DockScene scene(true);
-    scene.panel("E")->refuses = true;
-    scene.floatingWindow->close();
-    QCOMPARE(scene.problems(), QString());
-    QVERIFY(!scene.floatingWindow && !scene.floating);
-    QVERIFY(!scene.panel("F"));
 }
 
 void tst_Lifetimes::refusingPanelsOutliveTheMainWindow()
@@ -290,19 +278,6 @@ void tst_Lifetimes::windowsCloseWhileALayoutIsRestored()
     QVERIFY(!window);
     QCOMPARE(int(host->floatingWindows().size()), 1);
     delete host;
-}
-
-void tst_Lifetimes::placeHoldersDieWithTheirPane()
-{
-    DockScene scene;
-    delete scene.panel("D");
-    const QPointer<Panel> panel(scene.panels.make(latin1("D")));
-    const QPointer<QWidget> placeHolder(scene.right->restorePlaceHolderForWidget(panel));
-    panel->hide();
-    QVERIFY(placeHolder);
-    delete scene.right;
-    QVERIFY(!placeHolder);
-    QCOMPARE(scene.problems(), QString());
 }
 
 QTEST_MAIN(tst_Lifetimes)

@@ -43,18 +43,14 @@ void tst_WindowPlacement::savedWindowIsPlaced_data()
     QTest::addColumn<int>("state");
     QTest::addColumn<QRect>("available");
     savedRow("fits", QRect(100, 50, 600, 400), QRect(100, 50, 600, 400));
-    savedRow("sticks out", QRect(900, 700, 600, 400), QRect(900, 700, 600, 400));
     savedRow("just visible", QRect(999, 799, 600, 400), QRect(999, 799, 600, 400));
     savedRow("too high", QRect(100, 50, 600, 900), QRect(100, 50, 600, 800), 2);
     savedRow("too wide", QRect(500, 50, 1500, 400), QRect(500, 50, 1000, 400));
     savedRow("spans two screens", QRect(500, 50, 1500, 400), QRect(500, 50, 1500, 400), 2);
     savedRow("maximised over two", QRect(500, 50, 1500, 400), QRect(500, 50, 1000, 400), 2, kMaximized);
     savedRow("too far right", QRect(1000, 50, 600, 400), QRect(400, 50, 600, 400));
-    savedRow("too far left", QRect(-600, 50, 600, 400), QRect(0, 50, 600, 400));
     savedRow("too far down", QRect(100, 800, 600, 400), QRect(100, 400, 600, 400));
-    savedRow("too far up", QRect(100, -900, 600, 400), QRect(100, 0, 600, 400));
     savedRow("wide and too far right", QRect(4000, 50, 1500, 400), QRect(-500, 50, 1500, 400), 2);
-    savedRow("wide and too far left", QRect(-2000, 50, 1500, 400), QRect(-500, 50, 1500, 400), 2);
     savedRow("on the other screen", QRect(100, 500, 700, 500), QRect(900, 0, 700, 400), 2, kNormal, kSecond);
     savedRow("above a low screen", QRect(-1000, -300, 800, 600), QRect(-1000, -200, 800, 600), 2, kNormal,
              kLeftOfFirst);
@@ -62,7 +58,6 @@ void tst_WindowPlacement::savedWindowIsPlaced_data()
              kLeftOfFirst);
     savedRow("full-screen", QRect(5, 5, 50, 50), QRect(159, 144, 667, 535), 1, kFullscreen,
              QRect(-7, 11, 1001, 803));
-    savedRow("full-screen and maximised", kFirst, QRect(166, 133, 666, 533), 1, kBoth);
     savedRow("nothing saved", QRect(0, 0, 0, 0), QRect(1000, 0, 0, 0), 2, kNormal, kSecond);
     savedRow("no screen at all", QRect(10, 10, 100, 100), QRect(0, 0, 0, 0), 0, kNormal, QRect());
 }

@@ -56,11 +56,9 @@ private Q_SLOTS:
     void modalWhileTaskIs();
     void hiddenRowsCount();
     void heldBackUntilOld();
-    void shortTaskIsNeverShown();
     void cancellingReachesSubTasks();
     void closingCancelsTasks();
     void closingDropsRowsWithoutTask();
-    void clearedTaskStaysListed();
     void leavesItsWindowWhenClosed();
     void rowsComeBackInNextDialog();
     void queuedWakesShareOneLook();
@@ -155,15 +153,6 @@ void tst_ProgressDialog::heldBackUntilOld()
     QVERIFY(record->widget && dialog()->isVisible());
 }
 
-void tst_ProgressDialog::shortTaskIsNeverShown()
-{
-    addTask(ProgressTask::kDelayedPopup);
-    tasks.clear();
-    QCOMPARE(manager->tasksCount(), 0);
-    QCOMPARE(rowCount(), 0);
-    QVERIFY(dialog()->isHidden());
-}
-
 void tst_ProgressDialog::cancellingReachesSubTasks()
 {
     const Record parent = addTask(0);
@@ -199,18 +188,6 @@ void tst_ProgressDialog::closingDropsRowsWithoutTask()
     QVERIFY(!record->widget && dialog()->isHidden());
     QCOMPARE(manager->tasksCount(), 1);
     dialog()->close();
-    WAIT_FOR(!row);
-}
-
-void tst_ProgressDialog::clearedTaskStaysListed()
-{
-    const Record record = addTask(ProgressTask::kUserCanCancel);
-    tasks[0]->setErrorState(QString());
-    tasks.clear();
-    const QPointer<ProgressWidget> row = record->widget;
-    row->findChild<QPushButton*>()->click();
-    QVERIFY(record->finished && dialog()->isHidden());
-    QCOMPARE(manager->tasksCount(), 1);
     WAIT_FOR(!row);
 }
 

@@ -76,7 +76,6 @@ private Q_SLOTS:
     void cancels();
     void failedTaskIsCleared_data();
     void failedTaskIsCleared();
-    void failedTaskWithoutButton();
     void outlivesTask();
     void ownerMayDeleteRow();
 };
@@ -188,14 +187,6 @@ void tst_ProgressWidget::failedTaskIsCleared()
     QVERIFY(scene.record->flags & ProgressTask::kDisable);
     QCOMPARE(scene.manager.wakeCount(), wakes + 1);
     WAIT_FOR(!scene.row);
-}
-
-void tst_ProgressWidget::failedTaskWithoutButton()
-{
-    const Scene scene(0);
-    scene.task->setErrorState(QString::fromLatin1("WWWWWW"));
-    scene.row->refresh();
-    QVERIFY(hasRed(scene.picture()));
 }
 
 void tst_ProgressWidget::outlivesTask()

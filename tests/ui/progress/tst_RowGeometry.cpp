@@ -25,7 +25,6 @@ void tst_RowGeometry::parts_data()
     const QRect nowhere;
     QTest::newRow("no buttons") << none << none << nowhere << nowhere << 305;
     QTest::newRow("Cancel") << QSize(80, 24) << none << QRect(415, 6, 80, 24) << nowhere << 300;
-    QTest::newRow("Pause") << none << QSize(60, 22) << nowhere << QRect(435, 6, 60, 22) << 320;
     QTest::newRow("both") << QSize(80, 24) << QSize(90, 22) << QRect(415, 6, 80, 24) << QRect(405, 35, 90, 22)
                           << 290;
 }

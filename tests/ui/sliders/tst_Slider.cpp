@@ -158,10 +158,8 @@ void tst_Slider::dragSnapsToRoundValues_data()
     QTest::newRow("less than 1 a pixel") << integer << linear << 0.0 << 100.0 << 500 << 248 << 50.0;
     QTest::newRow("3 thousandths a pixel") << real << linear << 0.0 << 1.5 << 500 << 101 << 0.305;
     QTest::newRow("zero inside the range") << real << log << -4.0 << 9.0 << 500 << 200 << 0.0;
-    QTest::newRow("logarithmic") << real << log << 1.0 << 10000.0 << 400 << 190 << 80.0;
     QTest::newRow("mirrored") << real << log << -100.0 << -1.0 << 400 << 200 << -10.0;
     QTest::newRow("before the start") << real << linear << 0.123 << 1.0 << 100 << -40 << 0.123;
-    QTest::newRow("after the end") << real << linear << 0.0 << 0.997 << 100 << 400 << 0.997;
 }
 
 void tst_Slider::dragSnapsToRoundValues()
@@ -244,16 +242,12 @@ void tst_Slider::keysMoveAndReport_data()
         QTest::newRow(name) << int(type) << value << int(key)
                             << (*newValue ? reports.arg(QLatin1String(newValue)) : reports);
     };
-    row("right", Slider::RealValue, 0.5, Qt::Key_Right, "0.51");
     row("down", Slider::RealValue, 0.01, Qt::Key_Down, "0");
     row("page up", Slider::RealValue, 0.5, Qt::Key_PageUp, "0.6");
-    row("page down", Slider::RealValue, 0.05, Qt::Key_PageDown, "-0.05");
-    row("home", Slider::RealValue, 0.5, Qt::Key_Home, "-1");
     row("end", Slider::RealValue, 0.5, Qt::Key_End, "1");
     row("page up to the end", Slider::RealValue, 0.99, Qt::Key_PageUp, "1");
     row("at the end", Slider::RealValue, 1, Qt::Key_Right, "");
     row("from outside the range", Slider::RealValue, 7, Qt::Key_Right, "1");
-    row("integer", Slider::IntegerValue, 0, Qt::Key_Right, "1");
     row("no key of ours", Slider::RealValue, 0.5, Qt::Key_A, "");
 }
 

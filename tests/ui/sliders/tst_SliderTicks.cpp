@@ -82,11 +82,8 @@ void tst_SliderTicks::marksAreChosen_data()
     row("for the major ones", linear, 0, 20, 110, "!0 . . . . . . . . . !10 . . . . . . . . . !20");
     row("minimum missed by rounding", linear, 0.07, 0.1, 90, "0.07 0.08 0.09 !0.1");
     row("minimum between ticks", linear, 0.25, 0.55, 90, "0.3 0.4 0.5");
-    row("whole numbers only", integer, 0, 3, 300, "!0 1 2 3");
-    row("no range", linear, 2, 2, 300, "");
     row("no length", linear, 0, 1, 0, "");
     row("decades", log, 1, 100, 60, "!1 . . . !10 . . . !100");
-    row("all marks, some labels", log, 1, 10, 200, "!1 2 3 . 5 . 7 . . !10");
     row("part of a decade", log, 20, 80, 100, "20 30 . 50 . . .");
     row("decades closer than ticks", log, 1e-3, 1e3, 12, "!0.001 !. !.");
     row("whole decades", QLatin1String("integer log"), 0.1, 100, 90, "!1 . . . !10 . . . !100");

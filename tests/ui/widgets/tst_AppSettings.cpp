@@ -13,7 +13,6 @@ class tst_AppSettings : public QObject
 private Q_SLOTS:
     void namesFile_data();
     void namesFile();
-    void readsNoOtherFile();
 };
 
 namespace {
@@ -50,17 +49,6 @@ void tst_AppSettings::namesFile()
         folder("user") + QLatin1Char('/') + QString::fromLatin1(name) + QString::fromLatin1(".ini");
     if (!name.isEmpty())
         QVERIFY2(QFile::remove(path), qPrintable(path));
-}
-
-void tst_AppSettings::readsNoOtherFile()
-{
-    QSettings::setPath(QSettings::IniFormat, QSettings::SystemScope, folder("system"));
-    AppSettings::SetName("norvane-test");
-    QSettings system(QSettings::IniFormat, QSettings::SystemScope, QString::fromLatin1("norvane-test"));
-    system.setValue(QString::fromLatin1("key"), 42);
-    system.sync();
-    QVERIFY(QFile::exists(system.fileName()));
-    QVERIFY(!AppSettings().contains(QString::fromLatin1("key")));
 }
 
 NORVANE_GUILESS_MAIN(tst_AppSettings)

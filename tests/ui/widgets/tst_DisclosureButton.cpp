@@ -7,8 +7,8 @@
 #include <QImage>
 #include <QPointer>
 
-#include <type_traits>
-#include <vector>
+#include <algorithm>
+#include <functional>
 
 using namespace Norvane::UI;
 
@@ -56,30 +56,15 @@ void click(Button* button)
     QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(8, 7));
 }
 
-/// Places for widgets, so that a test decides which has the lower address.
-class Places
+/// Buttons of \a form in the order of their addresses.
+QList<Button*> buttonsOf(QWidget* form, int count)
 {
-public:
-    ~Places()
-    {
-        for (QWidget* const widget : m_widgets)
-            widget->~QWidget();
-    }
-
-    template <class Widget>
-    Widget* make(int place, QWidget* parent)
-    {
-        static_assert(sizeof(Widget) <= sizeof(Place), "too large");
-        Widget* const widget = new (&m_places[place]) Widget(parent);
-        m_widgets.push_back(widget);
-        return widget;
-    }
-
-private:
-    using Place = std::aligned_storage<256>::type;
-    Place m_places[8];
-    std::vector<QWidget*> m_widgets;
-};
+    QList<Button*> buttons;
+    while (buttons.size() < count)
+        buttons.append(new Button(form));
+    std::sort(buttons.begin(), buttons.end(), std::less<Button*>());
+    return buttons;
+}
 
 QString visibleOf(const QList<QWidget*>& widgets)
 {
@@ -98,7 +83,6 @@ void tst_DisclosureButton::addedWidgetIsShownOrHidden_data()
     QTest::addColumn<bool>("wanted");
     QTest::addColumn<bool>("visible");
     QTest::newRow("open") << true << true << true << true;
-    QTest::newRow("open, unwanted") << true << true << false << true;
     QTest::newRow("open, later") << true << false << true << false;
     QTest::newRow("closed") << false << true << true << false;
 }
@@ -128,26 +112,23 @@ void tst_DisclosureButton::addedWidgetIsShownOrHidden()
 
 void tst_DisclosureButton::nestOpensTheSameAtAnyAddress_data()
 {
-    // Of the outer, the middle and the inner button, a plain widget and one in two groups.
+    // Of the outer, the middle and the inner button.
     QTest::addColumn<QString>("places");
-    QTest::newRow("outside in") << "01234";
-    QTest::newRow("inside out") << "43210";
-    QTest::newRow("widgets first") << "23401";
-    QTest::newRow("buttons crossed") << "21043";
-    QTest::newRow("shared in the middle") << "34102";
+    QTest::newRow("outside in") << "012";
+    QTest::newRow("inside out") << "210";
+    QTest::newRow("crossed") << "102";
 }
 
 void tst_DisclosureButton::nestOpensTheSameAtAnyAddress()
 {
     QFETCH(QString, places);
-    const auto place = [&](int index) { return places[index].digitValue(); };
     QWidget form;
-    Places memory;
-    Button* const outer = memory.make<Button>(place(0), &form);
-    Button* const middle = memory.make<Button>(place(1), &form);
-    Button* const inner = memory.make<Button>(place(2), &form);
-    QWidget* const widget = memory.make<QWidget>(place(3), &form);
-    Section* const shared = memory.make<Section>(place(4), &form);
+    const QList<Button*> buttons = buttonsOf(&form, 3);
+    Button* const outer = buttons[places[0].digitValue()];
+    Button* const middle = buttons[places[1].digitValue()];
+    Button* const inner = buttons[places[2].digitValue()];
+    QWidget* const widget = new QWidget(&form);
+    Section* const shared = new Section(&form);
     form.show();
     outer->addWidget(middle);
     outer->addWidget(shared);
@@ -176,11 +157,11 @@ void tst_DisclosureButton::nestOpensTheSameAtAnyAddress()
 // A plain widget in a closed and an open group of the same nest is as the button added last wants it.
 void tst_DisclosureButton::nestedButtonsUpdateInOrderAdded()
 {
-    for (int closedPlace = 0; closedPlace < 3; closedPlace += 2) {
+    for (int closedPlace = 0; closedPlace < 2; ++closedPlace) {
         QWidget form;
-        Places memory;
-        Button* const closed = memory.make<Button>(closedPlace, &form);
-        Button* const open = memory.make<Button>(1, &form);
+        const QList<Button*> buttons = buttonsOf(&form, 2);
+        Button* const closed = buttons[closedPlace];
+        Button* const open = buttons[1 - closedPlace];
         QWidget widget(&form);
         Button outer(&form);
         form.show();
