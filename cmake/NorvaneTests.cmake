@@ -52,8 +52,21 @@ function(norvane_test_environment name)
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${timeout}
         ENVIRONMENT "${environment}"
-        FAIL_REGULAR_EXPRESSION "Qt warning: |QWARN  *:|QSYSTEM *:|QCRITICAL *:")
+        FAIL_REGULAR_EXPRESSION "${NORVANE_QT_WARNINGS}")
 endfunction()
+
+# Warnings as our message pattern marks them and as QtTest does, but for one: when a window hides, Qt looks which one the
+# mouse is over now, asks the X server about each on the way there (TranslateCoords, 40), and complains (BadWindow, 3) if
+# the window manager has just destroyed one of them.
+set(NORVANE_QT_WARNINGS
+    "Qt warning: ([^Q]|Q[^X]|QX[^c])"
+    "Qt warning: QXcb[^\n]* error: ([^3]|3[^ ])"
+    "Qt warning: QXcb[^\n]* major code: ([^4]|4[^0]|40[^ ])"
+    "Qt warning: QXcbConnection: [^X]"
+    "Qt warning: QXcb([^C]|C[^o])"
+    "QWARN  *: [^)]*[)] ([^Q]|Q[^t])"
+    "QSYSTEM *:"
+    "QCRITICAL *:")
 
 # Qt complains about a runtime directory that is not there or that others can read.
 set(NORVANE_TEST_RUNTIME_DIR ${PROJECT_BINARY_DIR}/tests/runtime)

@@ -298,8 +298,9 @@ def main():
         desk = Desk(sys.argv[1], sys.argv[2:], folder)
         desk.steps()
         with open(desk.log_path, encoding="utf-8") as log:
-            console = log.read()
-        check(not console, f"the host wrote to the console:\n{console}")
+            # Qt's race with window managers, which NorvaneTests.cmake tells about.
+            console = [line for line in log if "(BadWindow)" not in line or "(TranslateCoords)" not in line]
+        check(not console, f"the host wrote to the console:\n{''.join(console)}")
     print("passed")
 
 
