@@ -18,7 +18,7 @@ enum Arrangement : int {
     kReviewArrangement
 };
 
-/// Ids of the panels to arrange. There may be none of a kind.
+/// Ids of the panels to arrange, and of those that go with them. There may be none of a kind.
 struct ArrangedPanels {
     QStringList viewers;
     QStringList pictures;

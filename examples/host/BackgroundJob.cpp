@@ -14,6 +14,13 @@ namespace {
 const int kShortWork = 500; // ms
 const int kProgressSteps = 1000;
 
+/// Not QThreadPool::globalInstance(): painting waits for a thread of that one.
+QThreadPool& threads()
+{
+    static QThreadPool pool;
+    return pool;
+}
+
 } // namespace
 
 BackgroundJob::BackgroundJob(const QString& name)
@@ -29,7 +36,7 @@ BackgroundJob::~BackgroundJob() = default;
 void BackgroundJob::start(int priority)
 {
     m_sinceStart.start();
-    QThreadPool::globalInstance()->start(this, priority);
+    threads().start(this, priority);
 }
 
 void BackgroundJob::cancel()
@@ -44,7 +51,7 @@ bool BackgroundJob::isCancelled() const
 
 void BackgroundJob::waitForAll()
 {
-    QThreadPool::globalInstance()->waitForDone();
+    threads().waitForDone();
 }
 
 void BackgroundJob::run()

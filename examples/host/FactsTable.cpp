@@ -1,8 +1,8 @@
 #include "FactsTable.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QStringList>
 
 namespace Norvane { namespace Host {
 
@@ -12,8 +12,9 @@ FactsTable::FactsTable(QWidget* parent)
     , m_values(new QLabel(this))
 {
     m_values->setTextFormat(Qt::PlainText);
-    // A long path is cut off instead of making the panel wide.
+    // A long path does not make the panel wide.
     m_values->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_values->installEventFilter(this);
     QHBoxLayout* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 6);
     layout->setSpacing(12);
@@ -24,14 +25,31 @@ FactsTable::FactsTable(QWidget* parent)
 void FactsTable::setFacts(const Facts& facts)
 {
     QStringList names;
-    QStringList values;
+    m_fullValues.clear();
     for (const QPair<QString, QString>& fact : facts) {
         names.append(fact.first);
-        values.append(fact.second);
+        m_fullValues.append(fact.second);
     }
     m_names->setText(names.join(QLatin1String("\n")));
-    m_values->setText(values.join(QLatin1String("\n")));
-    m_values->setToolTip(m_values->text());
+    const QString values = m_fullValues.join(QLatin1String("\n"));
+    m_values->setToolTip(values);
+    m_values->setAccessibleName(values);
+    showValues();
+}
+
+void FactsTable::showValues()
+{
+    QStringList shown;
+    for (const QString& value : m_fullValues)
+        shown.append(m_values->fontMetrics().elidedText(value, Qt::ElideMiddle, m_values->width()));
+    m_values->setText(shown.join(QLatin1String("\n")));
+}
+
+bool FactsTable::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange)
+        showValues();
+    return QWidget::eventFilter(watched, event);
 }
 
 bool FactsTable::isShownWhenDisclosed() const

@@ -52,7 +52,7 @@ void HostWindow::arrange(Arrangement arrangement)
          {PanelRegistry::FilesKind, PanelRegistry::InspectorKind, PanelRegistry::ControlsKind,
           PanelRegistry::ColourKind, PanelRegistry::ScopesKind})
         panels.pictures += openIds(kind);
-    panels.notes = idsToArrange(PanelRegistry::NotesKind);
+    panels.notes = idsToArrange(PanelRegistry::NotesKind) + openIds(PanelRegistry::ScriptKind);
     panels.currentViewer = focusedViewer() ? focusedViewer()->objectName() : panels.viewers.first();
     restoreSafely(arrangementDocument(arrangement, panels, place()), tr("The arrangement"));
 }

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void filesPanelTakesDrops();
     void inspectorShowsWhatThereIs();
     void clickedControlIsExplained();
+    void longFactLosesItsMiddle();
 };
 
 namespace {
@@ -158,6 +159,20 @@ void tst_FormPanels::clickedControlIsExplained()
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     QVERIFY(explanation().isEmpty());
     QVERIFY(!QApplication::overrideCursor());
+}
+
+void tst_FormPanels::longFactLosesItsMiddle()
+{
+    FactsTable table(nullptr);
+    const QString path = latin1("/a/folder/with/a/name/that/is/as/long/as/names/are/that/tell/something.png");
+    table.setFacts(Facts() << qMakePair(latin1("File"), path));
+    table.resize(200, 40);
+    table.show();
+    const QLabel* const value = table.findChildren<QLabel*>()[1];
+    WAIT_FOR(value->text() != path);
+    QVERIFY(value->text().startsWith(path.left(3)) && value->text().endsWith(path.right(3)));
+    QVERIFY(value->fontMetrics().boundingRect(value->text()).width() <= value->width());
+    QCOMPARE(value->accessibleName(), path);
 }
 
 QTEST_MAIN(tst_FormPanels)

@@ -246,6 +246,8 @@ void tst_HostArrangements::scriptIsRunInItsPanel()
     QVERIFY(m_window->findDockByName(latin1("Script.1"), true, false));
     const QPlainTextEdit* const output = m_window->findChild<ScriptPanel*>()->findChild<QPlainTextEdit*>();
     WAIT_FOR(output->toPlainText().contains(QDir::toNativeSeparators(script)));
+    entry("&Single")->trigger();
+    QVERIFY(m_window->findDockByName(latin1("Script.1"), true, false));
 }
 
 void tst_HostArrangements::tasksAreAWindowOrAPanel()

@@ -10,7 +10,7 @@
 #include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryFile>
-#include <QThreadPool>
+#include <QThread>
 
 #include <memory>
 
@@ -41,18 +41,18 @@ QString sample(const char* name)
     return QDir(QLatin1String(NORVANE_SAMPLES)).filePath(QLatin1String(name));
 }
 
-/// Holds the only thread for as long as it lives, so that readings wait.
+/// Holds all threads for as long as it lives, so that readings wait.
 class ThreadHolder
 {
 public:
     ThreadHolder()
     {
-        QThreadPool::globalInstance()->setMaxThreadCount(1);
-        (new Holding(&m_end))->start();
+        for (int i = 0; i < m_count; ++i)
+            (new Holding(&m_end))->start();
     }
     ~ThreadHolder()
     {
-        m_end.release();
+        m_end.release(m_count);
         BackgroundJob::waitForAll();
     }
 
@@ -73,6 +73,7 @@ private:
         QSemaphore* const m_end;
     };
 
+    const int m_count = QThread::idealThreadCount();
     QSemaphore m_end;
 };
 
