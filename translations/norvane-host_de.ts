@@ -34,6 +34,14 @@
         <translation>Unbekannte Option „%1“.</translation>
     </message>
     <message>
+        <source>There is no language &quot;%1&quot;. There are %2.</source>
+        <translation>Es gibt keine Sprache „%1“. Es gibt %2.</translation>
+    </message>
+    <message>
+        <source>--script needs a file.</source>
+        <translation>--script braucht eine Datei.</translation>
+    </message>
+    <message>
         <source>Usage: norvane-host [OPTION...] [PICTURE...]
 Looks at pictures in panels that can be arranged freely.
 
@@ -44,6 +52,7 @@ Looks at pictures in panels that can be arranged freely.
                  on quitting, instead of that of the last session
   --fresh        start with the default arrangement
   --dark         use the dark palette
+  --script FILE  run the Python script FILE in a Script panel
   --language CODE
                  show all texts in this language, such as de or en,
                  instead of the user&apos;s
@@ -60,16 +69,13 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
                  Beenden dort speichern, statt der der letzten Sitzung
   --fresh        mit der Anordnung beginnen, die vorgegeben ist
   --dark         die dunkle Palette benutzen
+  --script DATEI das Python-Skript DATEI in einem Skript-Panel ausführen
   --language KÜRZEL
                  alle Texte in dieser Sprache zeigen, etwa de oder en,
                  statt in der des Benutzers
   -h, --help     diesen Text zeigen
   -v, --version  die Version zeigen
 </translation>
-    </message>
-    <message>
-        <source>There is no language &quot;%1&quot;. There are %2.</source>
-        <translation>Es gibt keine Sprache „%1“. Es gibt %2.</translation>
     </message>
 </context>
 <context>
@@ -96,6 +102,13 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
     </message>
 </context>
 <context>
+    <name>FileReplacement</name>
+    <message>
+        <source>The file cannot be replaced.</source>
+        <translation type="unfinished">Die Datei kann nicht ersetzt werden.</translation>
+    </message>
+</context>
+<context>
     <name>FrameFormat</name>
     <message>
         <source>&quot;%1&quot; is not a layout and a size, such as v210:1920x1080.</source>
@@ -119,10 +132,6 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
     <message>
         <source>Line %1, column %2: %3</source>
         <translation>Zeile %1, Spalte %2: %3</translation>
-    </message>
-    <message>
-        <source>The file cannot be replaced.</source>
-        <translation>Die Datei kann nicht ersetzt werden.</translation>
     </message>
 </context>
 <context>
@@ -388,6 +397,49 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
     </message>
 </context>
 <context>
+    <name>Norvane::Host::FrameDialog</name>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Open Frame</source>
+        <translation>Einzelbild öffnen</translation>
+    </message>
+    <message>
+        <source>A file with the samples of one frame</source>
+        <translation>Eine Datei mit den Abtastwerten eines Bildes</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished">&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Layout</source>
+        <translation>&amp;Format</translation>
+    </message>
+    <message>
+        <source>&amp;Size</source>
+        <translation>&amp;Größe</translation>
+    </message>
+    <message>
+        <source>&amp;Matrix</source>
+        <translation type="unfinished">&amp;Matrix</translation>
+    </message>
+    <message>
+        <source>The usual one: %1</source>
+        <translation>Die übliche: %1</translation>
+    </message>
+    <message>
+        <source>Choose a file.</source>
+        <translation>Eine Datei auswählen.</translation>
+    </message>
+</context>
+<context>
     <name>Norvane::Host::FrameInspector</name>
     <message>
         <source>The matrix that the colours of the frame are made with. It is not written in the file: the right one is the one that the frame was encoded with.</source>
@@ -396,6 +448,24 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
     <message>
         <source>&amp;Matrix</source>
         <translation>&amp;Matrix</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::Host::FrameSaveDialog</name>
+    <message>
+        <source>%1 samples (*.%2)</source>
+        <translation type="unfinished">%1-Abtastwerte (*.%2)</translation>
+    </message>
+    <message>
+        <source>Save Frame</source>
+        <translation type="unfinished">Einzelbild speichern</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::Host::FrameWriting</name>
+    <message>
+        <source>Saving %1</source>
+        <translation>%1 wird gespeichert</translation>
     </message>
 </context>
 <context>
@@ -418,10 +488,6 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
     <message>
         <source>The arrangement</source>
         <translation>Die Anordnung</translation>
-    </message>
-    <message>
-        <source>%1 samples (*.%2)</source>
-        <translation>%1-Abtastwerte (*.%2)</translation>
     </message>
     <message>
         <source>Save Frame</source>
@@ -465,7 +531,7 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
     </message>
     <message>
         <source>Save &amp;Frame...</source>
-        <translation>&amp;Einzelbild speichern...</translation>
+        <translation>Einzelbild spei&amp;chern...</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>
@@ -657,6 +723,22 @@ Trotzdem beenden?</translation>
         <source>Open Pictures</source>
         <translation>Bilder öffnen</translation>
     </message>
+    <message>
+        <source>Open F&amp;rame...</source>
+        <translation>Einz&amp;elbild öffnen...</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+F</source>
+        <translation>Ctrl+Shift+F</translation>
+    </message>
+    <message>
+        <source>&amp;Show Tasks</source>
+        <translation>Aufgaben &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Aufgaben</translation>
+    </message>
 </context>
 <context>
     <name>Norvane::Host::InspectorPanel</name>
@@ -741,6 +823,17 @@ Trotzdem beenden?</translation>
     <message>
         <source>Waveform of %1 x %2 pixels</source>
         <translation>Wellenform aus %1 x %2 Pixeln</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::Host::PictureLoader</name>
+    <message>
+        <source>Loading %1</source>
+        <translation>%1 wird geladen</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Das Laden wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -1014,6 +1107,14 @@ Trotzdem beenden?</translation>
         <source>%1  %2</source>
         <translation>%1  %2</translation>
     </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Wird geladen...</translation>
+    </message>
+    <message>
+        <source>%1, loading...</source>
+        <translation>%1, wird geladen...</translation>
+    </message>
 </context>
 <context>
     <name>Norvane::Host::WaveformView</name>
@@ -1098,6 +1199,10 @@ Trotzdem beenden?</translation>
     <message>
         <source>Pictures (%1);;All files (*)</source>
         <translation>Bilder (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation type="unfinished">Die Datei kann nicht gelesen werden: %1.</translation>
     </message>
 </context>
 <context>
