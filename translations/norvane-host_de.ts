@@ -105,7 +105,7 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
     <name>FileReplacement</name>
     <message>
         <source>The file cannot be replaced.</source>
-        <translation type="unfinished">Die Datei kann nicht ersetzt werden.</translation>
+        <translation>Die Datei kann nicht ersetzt werden.</translation>
     </message>
 </context>
 <context>
@@ -416,7 +416,7 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished">&amp;Datei</translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Layout</source>
@@ -428,7 +428,7 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
     </message>
     <message>
         <source>&amp;Matrix</source>
-        <translation type="unfinished">&amp;Matrix</translation>
+        <translation>&amp;Matrix</translation>
     </message>
     <message>
         <source>The usual one: %1</source>
@@ -454,11 +454,11 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
     <name>Norvane::Host::FrameSaveDialog</name>
     <message>
         <source>%1 samples (*.%2)</source>
-        <translation type="unfinished">%1-Abtastwerte (*.%2)</translation>
+        <translation>%1-Abtastwerte (*.%2)</translation>
     </message>
     <message>
         <source>Save Frame</source>
-        <translation type="unfinished">Einzelbild speichern</translation>
+        <translation>Einzelbild speichern</translation>
     </message>
 </context>
 <context>
@@ -1202,7 +1202,7 @@ Trotzdem beenden?</translation>
     </message>
     <message>
         <source>The file cannot be read: %1.</source>
-        <translation type="unfinished">Die Datei kann nicht gelesen werden: %1.</translation>
+        <translation>Die Datei kann nicht gelesen werden: %1.</translation>
     </message>
 </context>
 <context>
