@@ -306,6 +306,18 @@ Zeigt Bilder in Panels, die sich frei anordnen lassen.
         <source>&amp;Reset</source>
         <translation>&amp;Zurücksetzen</translation>
     </message>
+    <message>
+        <source>Disc</source>
+        <translation>Scheibe</translation>
+    </message>
+    <message>
+        <source>Value ring</source>
+        <translation>Ring für den Hellwert</translation>
+    </message>
+    <message>
+        <source>What the wheel looks like</source>
+        <translation>Wie das Farbrad aussieht</translation>
+    </message>
 </context>
 <context>
     <name>Norvane::Host::ControlHelp</name>

@@ -7,6 +7,7 @@
 #include <ui/colour/ColorSlider.h>
 #include <ui/colour/ColorWheel.h>
 
+#include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -25,6 +26,7 @@ namespace {
 const double kMaxGain = 4;
 const int kSmallestWheel = 120;
 const QSize kStandingSlider(40, 100);
+const char kRing[] = "ring";
 
 /// Sliders take no keyboard focus by themselves.
 void prepare(ColorSlider* slider)
@@ -39,6 +41,8 @@ void prepare(ColorSlider* slider)
 ColourPanel::ColourPanel(int number, QWidget* parent)
     : QWidget(parent)
     , m_control(this)
+    , m_wheel(createWheel())
+    , m_look(new QComboBox(this))
 {
     setWindowTitle(number > 1 ? tr("Colour %1").arg(number) : tr("Colour"));
     m_control.setColorRange(0, kMaxGain);
@@ -57,20 +61,31 @@ ColourPanel::ColourPanel(int number, QWidget* parent)
     addLying(lying, m_control.createBlueSlider(Qt::Horizontal));
     addLying(lying, m_control.createAlphaSlider(Qt::Horizontal));
 
+    m_look->addItem(tr("Disc"));
+    m_look->addItem(tr("Value ring"));
+    m_look->setToolTip(tr("What the wheel looks like"));
+    m_look->setAccessibleName(m_look->toolTip());
+    connect(m_look, SIGNAL(currentIndexChanged(int)), this, SLOT(showWheel(int)));
     QPushButton* const reset = new QPushButton(tr("&Reset"), this);
     connect(reset, SIGNAL(clicked()), this, SLOT(resetToDefault()));
 
+    QHBoxLayout* const bottom = new QHBoxLayout;
+    bottom->addWidget(m_look);
+    bottom->addStretch();
+    bottom->addWidget(reset);
+
     QVBoxLayout* const layout = new QVBoxLayout(this);
-    layout->addWidget(createWheel(), 3);
+    layout->addWidget(m_wheel, 3);
     layout->addLayout(standing, 2);
     layout->addLayout(lying);
-    layout->addWidget(reset, 0, Qt::AlignRight);
+    layout->addLayout(bottom);
     setViewer(nullptr);
 }
 
-QWidget* ColourPanel::createWheel()
+ColorWheel* ColourPanel::createWheel()
 {
     ColorWheel* const wheel = m_control.createColorWheel();
+    // The control makes it for a small place.
     wheel->setDisplayMode(ColorWheel::kDisc);
     wheel->setInteractionMode(ColorWheel::kAbsolute);
     wheel->setZoomEnabled(true);
@@ -78,6 +93,21 @@ QWidget* ColourPanel::createWheel()
     wheel->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     wheel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     return wheel;
+}
+
+QString ColourPanel::layoutState() const
+{
+    return m_look->currentIndex() == 0 ? QString() : QLatin1String(kRing);
+}
+
+void ColourPanel::setLayoutState(const QString& text)
+{
+    m_look->setCurrentIndex(text == QLatin1String(kRing) ? 1 : 0);
+}
+
+void ColourPanel::showWheel(int look)
+{
+    m_wheel->setDisplayMode(look == 0 ? ColorWheel::kDisc : ColorWheel::kValueRing);
 }
 
 void ColourPanel::addLying(QGridLayout* grid, ColorSlider* slider)

@@ -57,9 +57,10 @@ void HostWindow::start(const CommandLine& commandLine)
     const QString path =
         commandLine.layoutPath.isEmpty() ? LayoutStore::defaultPath() : commandLine.layoutPath;
     m_layoutPath = QFileInfo(path).absoluteFilePath();
-    resize(kDefaultSize);
+    const QRect available = UI::Screens::availableGeometry(0);
+    resize(kDefaultSize.boundedTo(available.size()));
     QRect frame = frameGeometry();
-    frame.moveCenter(UI::Screens::availableGeometry(0).center());
+    frame.moveCenter(available.center());
     move(frame.topLeft());
     show();
     if (commandLine.fresh)
