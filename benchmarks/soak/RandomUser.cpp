@@ -83,10 +83,12 @@ void RandomUser::tick()
         return;
     if (!m_planned.isEmpty()) {
         m_tool.start(QLatin1String("xdotool"), m_planned.takeFirst());
+    } else if (dismissDialog()) {
+        return;
     } else if (m_time.elapsed() > m_duration) {
         m_phase = kIdle;
         Q_EMIT finished();
-    } else if (m_phase == kUse && !dismissDialog()) {
+    } else if (m_phase == kUse) {
         doSomething();
     }
 }

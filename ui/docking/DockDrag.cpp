@@ -15,6 +15,17 @@ namespace {
 const Qt::WindowFlags kFlyingFlags = Qt::Tool | Qt::WindowStaysOnTopHint;
 const qreal kFlyingOpacity = 0.75;
 
+/// Whether the host has put the flying \a panel somewhere itself. There it stays.
+bool wasTaken(QWidget* panel)
+{
+    if (!panel->parentWidget())
+        return false;
+    // Not setWindowFlags(), which hides.
+    panel->overrideWindowFlags(Qt::Widget);
+    panel->setWindowOpacity(1.0);
+    return true;
+}
+
 void land(QWidget* panel)
 {
     panel->hide();
@@ -92,7 +103,7 @@ Dock* DockDrag::paneAt(const QPoint& mouse) const
 
 void DockDrag::moveTo(const QPoint& mouse, const QPoint& topLeft)
 {
-    if (!m_panel) {
+    if (!m_panel || wasTaken(m_panel)) {
         stop();
         return;
     }
@@ -149,7 +160,7 @@ void DockDrag::drop(const QPoint& mouse, bool floating)
     const DropSide side = m_side;
     const int index = m_sourceIndex;
     stop();
-    if (!source || !panel)
+    if (!source || !panel || wasTaken(panel))
         return;
     land(panel);
     if (target && !floating)
@@ -199,7 +210,7 @@ void DockDrag::cancel()
     const QPointer<QWidget> panel(m_panel);
     const int index = m_sourceIndex;
     stop();
-    if (!source || !panel)
+    if (!source || !panel || wasTaken(panel))
         return;
     land(panel);
     putBack(source, index, panel);
@@ -228,7 +239,7 @@ void DockDrag::barHides(DockTabBar* bar)
     if (bar != m_bar)
         return;
     letGoOfMouse();
-    if (m_panel)
+    if (m_panel && !wasTaken(m_panel))
         land(m_panel);
     QCoreApplication::postEvent(bar, new QEvent(QEvent::User));
 }
@@ -243,7 +254,7 @@ void DockDrag::paneDies(Dock* dock)
         return;
     const QPointer<QWidget> panel(m_panel);
     stop();
-    if (!panel)
+    if (!panel || wasTaken(panel))
         return;
     land(panel);
     if (panel->testAttribute(Qt::WA_DeleteOnClose))

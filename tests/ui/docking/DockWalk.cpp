@@ -124,6 +124,10 @@ QStringList DockWalk::step()
     m_hasMeddled = false;
     operation->run(*this);
     settle();
+    // What the window system has brought about meanwhile comes to its end as well.
+    m_isMeddling = true;
+    settle();
+    m_isMeddling = false;
     return m_problems + m_ledger.problems(m_panels, &m_home);
 }
 

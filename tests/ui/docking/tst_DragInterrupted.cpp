@@ -167,6 +167,8 @@ void tst_DragInterrupted::hostInterferes()
                 .arg(latin1(kContinuations[continuation]), latin1(deleteOnClose ? "die" : "live"));
         QVERIFY2(problems.isEmpty(), qPrintable(place + problems));
         QVERIFY2(panel || deletesPanel || deleteOnClose, qPrintable(place + latin1("the panel is lost")));
+        QVERIFY2(!panel || panel->windowOpacity() == 1.0,
+                 qPrintable(place + latin1("the panel is translucent")));
     }
 }
 
