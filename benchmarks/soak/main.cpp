@@ -54,14 +54,14 @@ Residue residueAfter(RandomUser* user, int milliseconds)
     return Residue::now();
 }
 
-/// One of each kind, so that there is something to be done with it.
-void openPanels(const QMainWindow* window)
+/// Triggers the entries of menus whose text begins like this.
+void choose(const QMainWindow* window, const char* text)
 {
     const QList<QAction*> menus = window->menuBar()->actions();
     for (const QAction* const entry : menus) {
         const QList<QAction*> actions = entry->menu()->actions();
         for (QAction* const action : actions) {
-            if (action->text().startsWith(QLatin1String("New ")))
+            if (action->text().startsWith(QLatin1String(text)))
                 action->trigger();
         }
     }
@@ -106,7 +106,9 @@ int main(int argc, char** argv)
     Host::HostWindow* const window = new Host::HostWindow(&progress);
     window->start(commandLine);
 
-    openPanels(window);
+    // Every picture is to be seen, as those that are not are not read; and there is a panel of each kind.
+    choose(window, "&Review");
+    choose(window, "New ");
     const QString layout = QDir(folder).filePath(QLatin1String("start.layout"));
     QFile file(layout);
     if (!file.open(QIODevice::WriteOnly))
