@@ -48,10 +48,10 @@ QList<QAction*> entriesOf(const QList<QAction*>& actions)
 
 } // namespace
 
-RandomUser::RandomUser(unsigned seed, const QString& layout, QObject* parent)
-    : QObject(parent)
-    , m_random(seed)
+RandomUser::RandomUser(unsigned seed, const QString& layout, const QString& emptyLayout)
+    : m_random(seed)
     , m_layout(layout)
+    , m_emptyLayout(emptyLayout)
 {
     m_tool.setProcessChannelMode(QProcess::ForwardedChannels);
     connect(&m_ticks, SIGNAL(timeout()), this, SLOT(tick()));
@@ -73,7 +73,9 @@ void RandomUser::rest()
     m_planned.clear();
     for (int i = 0; i < 4; ++i)
         m_planned.append(words("key Escape"));
-    m_planned.append(openLayout());
+    // Panels that are not in it are deleted, with what they have read and shrunk.
+    m_planned.append(open(m_emptyLayout));
+    m_planned.append(open(m_layout));
 }
 
 // Comes in the event loops of menus and dialogs, too.
@@ -82,7 +84,9 @@ void RandomUser::tick()
     if (m_phase == kIdle || isToolBusy())
         return;
     if (!m_planned.isEmpty()) {
-        m_tool.start(QLatin1String("xdotool"), m_planned.takeFirst());
+        const Gesture gesture = m_planned.takeFirst();
+        if (gesture.first() != QLatin1String("type") || qobject_cast<QLineEdit*>(QApplication::focusWidget()))
+            m_tool.start(QLatin1String("xdotool"), gesture);
     } else if (dismissDialog()) {
         return;
     } else if (m_time.elapsed() > m_duration) {
@@ -197,8 +201,7 @@ RandomUser::Gesture RandomUser::typeText()
     if (!line)
         return Gesture();
     const QStringList texts = words("City e .png /tmp nothing");
-    return click(pointIn(line)) << words("key ctrl+a type --delay 5 --args 1")
-                                << texts[upTo(int(texts.size()))];
+    return typeInto(line, texts[upTo(int(texts.size()))]);
 }
 
 RandomUser::Gesture RandomUser::runScript()
@@ -209,9 +212,15 @@ RandomUser::Gesture RandomUser::runScript()
         return Gesture();
     static const char* const lines[] = {"sum(range(100000))", "norvane.pictures()", "raise ValueError(1)",
                                         "import threading; threading.Thread(target=norvane.pictures).start()",
-                                        "t = norvane.ProgressTask('Soak'); t.cancel(); del t"};
-    return click(pointIn(prompt)) << words("key ctrl+a type --delay 5 --args 1")
-                                  << QString::fromLatin1(lines[upTo(5)]) << words("key Return");
+                                        "t = norvane.ProgressTask('Soak', 10); t.setProgress(5); del t"};
+    return typeInto(prompt, QString::fromLatin1(lines[upTo(5)])) << words("key Return");
+}
+
+// What lies over the line may take the click, and notes with a text are kept when they are closed.
+RandomUser::Gesture RandomUser::typeInto(const QLineEdit* line, const QString& text)
+{
+    m_planned.append(click(pointIn(line)));
+    return words("type --delay 5 --args 1") << text;
 }
 
 // Pauses, resumes, cancels and clears, whichever button it meets.
@@ -235,7 +244,12 @@ RandomUser::Gesture RandomUser::resizeWindow()
 
 RandomUser::Gesture RandomUser::openLayout()
 {
-    return words("key ctrl+shift+o sleep 1 type --delay 5 --args 1") << m_layout << words("key Return");
+    return open(m_layout);
+}
+
+RandomUser::Gesture RandomUser::open(const QString& layout) const
+{
+    return words("key ctrl+shift+o sleep 1 type --delay 5 --args 1") << layout << words("key Return sleep 1");
 }
 
 int RandomUser::upTo(int limit)

@@ -11,6 +11,7 @@
 
 #include <random>
 
+class QLineEdit;
 class QWidget;
 
 namespace Norvane { namespace Benchmarks {
@@ -21,12 +22,13 @@ class RandomUser : public QObject
 {
     Q_OBJECT
 public:
-    /// \a layout is the path of a layout file, which is opened now and then.
-    RandomUser(unsigned seed, const QString& layout, QObject* parent = nullptr);
+    /// \a layout and \a emptyLayout are the paths of layout files. The first one is opened now and then.
+    RandomUser(unsigned seed, const QString& layout, const QString& emptyLayout);
 
     /// Does one thing after the other for so long, then emits finished(). Dialogs that open are closed.
     void use(int milliseconds);
-    /// Closes what is open, opens the layout file, waits until nothing works any more and emits finished().
+    /// Closes what is open, opens the empty layout and the other one, waits until nothing works any more and
+    /// emits finished().
     void rest();
 
     /// How often it did what.
@@ -58,6 +60,8 @@ private:
     Gesture meddleWithTasks();
     Gesture resizeWindow();
     Gesture openLayout();
+    Gesture open(const QString& layout) const;
+    Gesture typeInto(const QLineEdit* line, const QString& text);
 
     int upTo(int limit);
     double fraction();
@@ -70,6 +74,7 @@ private:
 
     std::mt19937 m_random;
     const QString m_layout;
+    const QString m_emptyLayout;
     QProcess m_tool;
     QTimer m_ticks;
     QElapsedTimer m_time;

@@ -17,12 +17,14 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPixmapCache>
 #include <QSettings>
 #include <QStringList>
 
@@ -38,6 +40,17 @@ const int kMinute = 60 * 1000;
 /// In which caches fill, and the fifty steps that can be undone.
 const int kWarmUp = 3 * kMinute;
 
+const char kEmptyLayout[] = "<layout version=\"1.0\"><window x=\"50\" y=\"50\" w=\"800\" h=\"600\" "
+                            "screen=\"0\"><splitter orientation=\"1\"/>"
+                            "</window></layout>";
+
+void write(const QString& path, const QByteArray& text)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        qFatal("%s cannot be written.", qPrintable(path));
+}
+
 void wait(RandomUser* user)
 {
     QEventLoop loop;
@@ -51,6 +64,8 @@ Residue residueAfter(RandomUser* user, int milliseconds)
     wait(user);
     user->rest();
     wait(user);
+    // It grows up to a limit of its own.
+    QPixmapCache::clear();
     return Residue::now();
 }
 
@@ -110,13 +125,14 @@ int main(int argc, char** argv)
     choose(window, "&Review");
     choose(window, "New ");
     const QString layout = QDir(folder).filePath(QLatin1String("start.layout"));
-    QFile file(layout);
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("%s cannot be written.", qPrintable(layout));
-    window->saveLayout(&file, nullptr);
-    file.close();
+    const QString emptyLayout = QDir(folder).filePath(QLatin1String("empty.layout"));
+    QBuffer present;
+    present.open(QIODevice::WriteOnly);
+    window->saveLayout(&present, nullptr);
+    write(layout, present.data());
+    write(emptyLayout, kEmptyLayout);
 
-    RandomUser user(seed, layout);
+    RandomUser user(seed, layout, emptyLayout);
     const Residue start = residueAfter(&user, kWarmUp);
     print("start", start.toString());
     const Residue end = residueAfter(&user, minutes * kMinute);
