@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 
 namespace NorvaneTest {
@@ -10,7 +11,10 @@ namespace NorvaneTest {
 /// Whether both are the same bits, so that a NaN equals itself and 0 differs from -0.
 inline bool sameBits(float a, float b)
 {
-    return std::memcmp(&a, &b, sizeof a) == 0;
+    std::uint32_t bitsOfA = 0, bitsOfB = 0;
+    std::memcpy(&bitsOfA, &a, sizeof a);
+    std::memcpy(&bitsOfB, &b, sizeof b);
+    return bitsOfA == bitsOfB;
 }
 
 /// Whether \a value is \a expected but for a few roundings; \a magnitude is that of the largest term.

@@ -26,7 +26,7 @@ public:
     /// What was reported since the last call.
     QString take()
     {
-        const QString all = m_reports.join(QString::fromLatin1(" "));
+        QString all = m_reports.join(QString::fromLatin1(" "));
         m_reports.clear();
         return all;
     }

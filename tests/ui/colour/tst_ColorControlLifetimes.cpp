@@ -95,7 +95,6 @@ private Q_SLOTS:
     void viewEndsOtherView();
     void clientAnswersWithColor();
     void viewJoinsAndLeaves();
-    void copyHasNoControl();
 };
 
 void tst_ColorControlLifetimes::endsInAnyOrder()
@@ -204,23 +203,6 @@ void tst_ColorControlLifetimes::viewJoinsAndLeaves()
     QVERIFY(QMetaObject::invokeMethod(red, "valueChanged", Q_ARG(double, 0.125)));
     QCOMPARE(first.getColor().r, 0.5f);
     delete red;
-}
-
-void tst_ColorControlLifetimes::copyHasNoControl()
-{
-    QWidget widget;
-    ColorControl control(nullptr);
-    Proxy original(&widget);
-    original.setControl(&control);
-    Proxy copy(original);
-    Proxy other(&widget);
-    other.setControl(&control);
-    other = original;
-    control.setColorRGBA(0.5f, 0.5f, 0.5f, 1.0f);
-    QCOMPARE(original.updates, 1);
-    QCOMPARE(copy.updates, 0);
-    QCOMPARE(other.updates, 0);
-    QCOMPARE(original.getColorFromControl().r, 0.5f);
 }
 
 QTEST_MAIN(tst_ColorControlLifetimes)

@@ -45,7 +45,6 @@ private Q_SLOTS:
     void showsComponent();
     void trackShowsMeaning_data();
     void trackShowsMeaning();
-    void ticksCanBeHidden();
     void controlSnapsToDefault();
 };
 
@@ -98,20 +97,6 @@ void tst_ColorSlider::trackShowsMeaning()
         const QColor painted = trackAt(slider, position);
         QVERIFY2(isNear(painted, color), qPrintable(painted.name() + QLatin1String(" for ") + color.name()));
     }
-}
-
-void tst_ColorSlider::ticksCanBeHidden()
-{
-    ColorSlider slider(ColorUIConstants::kRed, Qt::Horizontal);
-    slider.resize(300, 20);
-    const QImage with = grabPixmap(&slider).toImage();
-    slider.setTicksEnabled(false);
-    const QImage without = grabPixmap(&slider).toImage();
-    QVERIFY(with != without);
-    const QRect labels(10, 14, 280, 6);
-    QImage plain = without.copy(labels);
-    plain.fill(without.pixel(20, 17));
-    QCOMPARE(without.copy(labels), plain);
 }
 
 void tst_ColorSlider::controlSnapsToDefault()

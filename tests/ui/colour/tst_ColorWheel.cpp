@@ -62,7 +62,6 @@ class tst_ColorWheel : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void startsAsItsModeSays();
     void settersKeepWhatTheyCanUse();
     void controlColorIsShown();
     void pixelHasColor_data();
@@ -75,15 +74,6 @@ private Q_SLOTS:
     void keyboardFocusIsFramed();
     void anySizeAndColorIsPainted();
 };
-
-void tst_ColorWheel::startsAsItsModeSays()
-{
-    QVERIFY(ColorWheel(nullptr).isAbsoluteMode());
-    const ColorWheel small(nullptr, ColorWheel::kEmbedded);
-    QVERIFY(!small.isAbsoluteMode());
-    QVERIFY(!small.getZoomEnabled());
-    QCOMPARE(small.size(), QSize(89, 89));
-}
 
 void tst_ColorWheel::settersKeepWhatTheyCanUse()
 {

@@ -77,7 +77,6 @@ private Q_SLOTS:
     void dragChangesColor();
     void relativeDragMovesMarker();
     void ringIsNotPassed();
-    void ringGrowsWithZoom();
     void squareIsDragged();
     void signalsHaveOrder();
     void secondButtonChangesNothing();
@@ -204,15 +203,6 @@ void tst_ColorWheelDrag::ringIsNotPassed()
     hand.moveTo(QPoint(95, 195));
     hand.moveBy(10, 0);
     QCOMPARE(wheel.value(), 0.0f);
-}
-
-void tst_ColorWheelDrag::ringGrowsWithZoom()
-{
-    Wheel wheel(ColorWheel::kValueRing);
-    wheel.zoom(2, 0, 0);
-    // The disc's radius is 2 * 99, less 2, less 2 * 16 for the ring: 164.
-    Hand hand(&wheel, QPoint(182, 100));
-    QVERIFY(isNear(wheel.saturation(), 0.5));
 }
 
 void tst_ColorWheelDrag::squareIsDragged()

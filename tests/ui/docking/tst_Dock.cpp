@@ -12,33 +12,12 @@ class tst_Dock : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void menuHasEntries();
     void showTabsTogglesTitle();
     void singleTabIsHidden();
     void titleStaysUnlessInserted();
     void titlesFollowPanels();
     void layoutIsDumped();
 };
-
-void tst_Dock::menuHasEntries()
-{
-    Desk desk;
-    const QMenu* const menu = desk.pane("A")->menu();
-    QCOMPARE(menu->title(), latin1("Panel"));
-    QStringList entries;
-    for (const QAction* const action : menu->actions()) {
-        QVERIFY(action->shortcut().isEmpty() && action->isEnabled());
-        entries.append((action->icon().isNull() ? QString() : latin1("#")) +
-                       (action->isSeparator() ? latin1("-") : action->text()));
-    }
-    QCOMPARE(entries.join(latin1("|")),
-             latin1("#Split Vertical|#Split Horizontal|-|Float Pane|Close Pane|Float Tab|Close Tab|Solo Tab|"
-                    "Show Tabs|-"));
-    // The icons are crossed on purpose.
-    const QImage icon = menu->actions().first()->icon().pixmap(16).toImage();
-    QCOMPARE(icon, QIcon(latin1(":/ui/qrc/images/HSplit.png")).pixmap(16).toImage());
-    QVERIFY(icon != QIcon(latin1(":/ui/qrc/images/VSplit.png")).pixmap(16).toImage());
-}
 
 void tst_Dock::showTabsTogglesTitle()
 {

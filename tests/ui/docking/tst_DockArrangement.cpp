@@ -14,7 +14,6 @@ private Q_SLOTS:
     void paneOutsideSplitterIsNotSplit();
     void floatingPanelTakesPlaceOfPane();
     void expandedPaneTakesAll();
-    void fullscreenTogglesWindow();
 };
 
 void tst_DockArrangement::splitHalvesPane()
@@ -106,19 +105,6 @@ void tst_DockArrangement::expandedPaneTakesAll()
     dock->setExpanded(false);
     QVERIFY(!dock->isExpanded());
     QCOMPARE(root->sizes() + inner->sizes(), sizes);
-}
-
-void tst_DockArrangement::fullscreenTogglesWindow()
-{
-    Desk desk;
-    Dock* const dock = desk.floatingPane("A");
-    QVERIFY(desk.show());
-    dock->fullscreenDock();
-    QVERIFY(dock->isFullscreenDock());
-    QVERIFY(dock->window()->isFullScreen() && !desk.window->isFullScreen());
-    dock->fullscreenDock();
-    QVERIFY(!dock->isFullscreenDock());
-    QVERIFY(!dock->window()->isFullScreen());
 }
 
 QTEST_MAIN(tst_DockArrangement)

@@ -20,8 +20,6 @@ private Q_SLOTS:
     void panelIsDropped();
     void panelDroppedNowhereFloatsAtMouse();
     void overlayFollowsMouse();
-    void emptiedFloatingWindowCloses();
-    void titleRuleIsAppliedAfterDrop();
 };
 
 namespace {
@@ -165,38 +163,6 @@ void tst_DockDrag::overlayFollowsMouse()
     QVERIFY(!overlay());
     drag.moveTo(over);
     drag.release(over);
-}
-
-void tst_DockDrag::emptiedFloatingWindowCloses()
-{
-    Desk desk;
-    Dock* const target = desk.pane("A");
-    Dock* const source = desk.floatingPane("B");
-    QVERIFY(desk.show());
-    source->window()->move(desk.window->geometry().bottomRight() + QPoint(30, 30));
-    const QPoint end = target->stack()->mapToGlobal(QPoint(200, 100));
-    TabDrag drag(source, 0);
-    drag.tearOff();
-    drag.moveTo(end);
-    drag.release(end);
-    WAIT_FOR(desk.trees() == latin1("V(A *B)"));
-}
-
-void tst_DockDrag::titleRuleIsAppliedAfterDrop()
-{
-    Desk desk;
-    desk.window->setHideSingleTabs(true);
-    Dock* const source = desk.pane("A B");
-    Dock* const target = desk.pane("C");
-    QVERIFY(desk.show());
-    const QPoint end = target->stack()->mapToGlobal(target->stack()->rect().center());
-    TabDrag drag(source, 0);
-    drag.tearOff();
-    QVERIFY(source->titleVisible());
-    drag.moveTo(end);
-    drag.release(end);
-    QVERIFY(!source->titleVisible());
-    QVERIFY(target->titleVisible());
 }
 
 QTEST_MAIN(tst_DockDrag)

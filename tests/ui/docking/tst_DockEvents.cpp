@@ -19,8 +19,6 @@ class tst_DockEvents : public QObject
 private Q_SLOTS:
     void initTestCase() { QCursor::setPos(5, 5); }
     void cleanup() { QCursor::setPos(5, 5); }
-    void buttonsFollowOptions_data();
-    void buttonsFollowOptions();
     void hiddenTitleAndNarrowPaneHideButtons();
     void nothingOverlapsInTitle_data();
     void nothingOverlapsInTitle();
@@ -45,38 +43,6 @@ QString visibleButtons(const Dock* dock)
 }
 
 } // namespace
-
-void tst_DockEvents::buttonsFollowOptions_data()
-{
-    QTest::addColumn<bool>("menu");
-    QTest::addColumn<bool>("closable");
-    QTest::addColumn<QString>("buttons");
-    QTest::newRow("default") << true << false
-                             << latin1("Panel menu|Float the current tab|Close the current tab");
-    QTest::newRow("no menu") << false << false << latin1("Float the current tab|Close the current tab");
-    QTest::newRow("closable tabs") << true << true << latin1("Panel menu");
-    QTest::newRow("neither") << false << true << latin1("");
-}
-
-void tst_DockEvents::buttonsFollowOptions()
-{
-    QFETCH(bool, menu);
-    QFETCH(bool, closable);
-    Desk desk;
-    desk.window->setHasPanelMenu(menu);
-    desk.window->setTabsAreClosable(closable);
-    Dock* const dock = desk.pane("A B");
-    QVERIFY(desk.show());
-    QTEST(visibleButtons(dock), "buttons");
-    QCOMPARE(dock->tabBar()->tabsClosable(), closable);
-    for (TitleBarButton* const button : dock->titleBar()->findChildren<TitleBarButton*>()) {
-        if (button->accessibleName().startsWith(latin1("Close")))
-            button->click();
-    }
-    if (closable)
-        QVERIFY(QMetaObject::invokeMethod(dock->tabBar(), "tabCloseRequested", Q_ARG(int, 1)));
-    QCOMPARE(tabs(dock), latin1("*A"));
-}
 
 void tst_DockEvents::hiddenTitleAndNarrowPaneHideButtons()
 {

@@ -12,54 +12,12 @@ class tst_DockMainWindow : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { QCursor::setPos(5, 5); }
-    void actionsAreMade_data();
-    void actionsAreMade();
     void focusMovesThroughPanes();
     void focusMovesThroughTabs();
     void focusOutsidePanesStays();
     void focusActivatesCurrentTab();
     void floatingWindowIsRegistered();
 };
-
-void tst_DockMainWindow::actionsAreMade_data()
-{
-    QTest::addColumn<int>("which");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("shortcut");
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<QString>("focus");
-    QTest::newRow("next pane") << 0 << latin1("Next Pane") << latin1("Ctrl+Alt+`")
-                               << latin1("norvane.application.focusNextPane") << latin1("D");
-    QTest::newRow("previous pane") << 1 << latin1("Previous Pane") << latin1("Ctrl+Shift+Alt+`")
-                                   << latin1("norvane.application.focusPreviousPane") << latin1("A");
-    QTest::newRow("next tab") << 2 << latin1("Next Tab") << latin1("Ctrl+Shift+]")
-                              << latin1("norvane.application.focusNextTab") << latin1("C");
-    QTest::newRow("previous tab") << 3 << latin1("Previous Tab") << latin1("Ctrl+Shift+[")
-                                  << latin1("norvane.application.focusPreviousTab") << latin1("A");
-}
-
-void tst_DockMainWindow::actionsAreMade()
-{
-    QFETCH(int, which);
-    QFETCH(QString, shortcut);
-    Desk desk;
-    desk.pane("A");
-    Dock* const dock = desk.pane("B C");
-    desk.pane("D");
-    dock->setCurrentTab(0);
-    QVERIFY(desk.show());
-    dock->setFocus();
-    DockMainWindow& window = *desk.window;
-    const QList<QAction*> actions = QList<QAction*>() << window.nextDockAction() << window.prevDockAction()
-                                                      << window.nextTabAction() << window.prevTabAction();
-    QAction* const action = actions[which];
-    QTEST(action->text(), "text");
-    QCOMPARE(action->shortcut(), QKeySequence(shortcut));
-    QTEST(action->objectName(), "id");
-    QCOMPARE(action->parent(), static_cast<QObject*>(&window));
-    action->trigger();
-    QTEST(QApplication::focusWidget()->objectName(), "focus");
-}
 
 namespace {
 

@@ -20,7 +20,6 @@ private Q_SLOTS:
     void pressFocusesPane();
     void dropIndexDependsOnMiddle();
     void hiddenTitleIsRevealed();
-    void buttonHintsItsIcon();
 };
 
 namespace {
@@ -122,19 +121,6 @@ void tst_DockTabBar::hiddenTitleIsRevealed()
     QVERIFY(dock->titleVisible());
     press.release(tabCentre(dock, 0));
     QVERIFY(!dock->titleVisible());
-}
-
-void tst_DockTabBar::buttonHintsItsIcon()
-{
-    TitleBarButton button(nullptr);
-    QCOMPARE(button.sizeHint(), QSize(4, 4));
-    const int small = button.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &button);
-    button.setIcon(QPixmap(8, 10));
-    QCOMPARE(button.sizeHint(), QSize(14, 14));
-    button.setIcon(QPixmap(64, 64));
-    QCOMPARE(button.sizeHint(), QSize(small + 4, small + 4));
-    QCOMPARE(button.minimumSizeHint(), button.sizeHint());
-    QCOMPARE(button.focusPolicy(), Qt::NoFocus);
 }
 
 QTEST_MAIN(tst_DockTabBar)

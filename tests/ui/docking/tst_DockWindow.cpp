@@ -8,25 +8,10 @@ class tst_DockWindow : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void newWindowIsTool();
     void paneIsFoundByPaneId_data();
     void paneIsFoundByPaneId();
     void closingAsksPanesDepthFirstAndHeedsNoRefusal();
 };
-
-void tst_DockWindow::newWindowIsTool()
-{
-    Desk desk;
-    const DockWindow window(desk.window, desk.window);
-    QCOMPARE(window.windowTitle(), latin1(" "));
-    QCOMPARE(window.windowType(), Qt::Tool);
-    QCOMPARE(window.rootSplitter()->orientation(), Qt::Vertical);
-    QCOMPARE(window.centralWidget(), static_cast<QWidget*>(window.rootSplitter()));
-    QVERIFY(!window.snapEnabled());
-    QCOMPARE(desk.window->windowTitle(), latin1(" "));
-    QCOMPARE(desk.window->windowType(), Qt::Window);
-    QVERIFY(desk.window->snapEnabled());
-}
 
 void tst_DockWindow::paneIsFoundByPaneId_data()
 {

@@ -57,8 +57,6 @@ private Q_SLOTS:
     void forgottenWindowsDieWithTheMainWindow();
     void paneDiesWithItsMenuOpen();
     void paneDiesWhileItsMenuButtonIsHeld();
-    void paneDiesWithTheFocusInIt_data();
-    void paneDiesWithTheFocusInIt();
     void windowsCloseWhileALayoutIsRestored();
 
     // Not tests: what timers call.
@@ -234,32 +232,6 @@ void tst_Lifetimes::paneDiesWhileItsMenuButtonIsHeld()
     QTimer::singleShot(0, this, SLOT(deletePane()));
     menuButton->showMenu();
     QVERIFY(!m_pane && !QApplication::activePopupWidget());
-    QCOMPARE(scene.problems(), QString());
-}
-
-void tst_Lifetimes::paneDiesWithTheFocusInIt_data()
-{
-    QTest::addColumn<bool>("deleteOnClose");
-    QTest::addColumn<QString>("victim");
-    for (const char* const victim : {"panel", "pane", "window", "main window"}) {
-        QTest::newRow(victim) << false << latin1(victim);
-        QTest::newRow((QByteArray(victim) + ", panels die on close").constData()) << true << latin1(victim);
-    }
-}
-
-void tst_Lifetimes::paneDiesWithTheFocusInIt()
-{
-    QFETCH(bool, deleteOnClose);
-    QFETCH(QString, victim);
-    DockScene scene(deleteOnClose);
-    scene.mainWindow->setHighlightCurrentTab(true);
-    QVERIFY(Desk::activate(scene.floatingWindow));
-    scene.panel("F")->setFocus();
-    QCOMPARE(scene.mainWindow->activeTab(), static_cast<QWidget*>(scene.panel("F")));
-    delete (victim == latin1("panel")    ? static_cast<QWidget*>(scene.panel("F"))
-            : victim == latin1("pane")   ? static_cast<QWidget*>(scene.floating)
-            : victim == latin1("window") ? scene.floatingWindow.data()
-                                         : static_cast<QWidget*>(scene.mainWindow));
     QCOMPARE(scene.problems(), QString());
 }
 

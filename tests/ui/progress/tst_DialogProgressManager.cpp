@@ -15,31 +15,8 @@ class tst_DialogProgressManager : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void makesAndDeletesDialogs();
     void placeComesBackOnce();
 };
-
-void tst_DialogProgressManager::makesAndDeletesDialogs()
-{
-    static ProgressManager base;
-    QVERIFY(!base.progressWidget() && !base.progressVisible() && !base.restoreState());
-    QVERIFY(!base.createProgressWidget(nullptr) && !base.deleteProgressWidget());
-
-    DialogProgressManager manager;
-    QCOMPARE(manager.progressWidget()->windowTitle(), QString::fromLatin1("Progress"));
-    QCOMPARE(manager.progressWidget()->objectName(), QString::fromLatin1("Progress.1"));
-    QVERIFY(manager.deleteProgressWidget() && !manager.deleteProgressWidget());
-    QVERIFY(!manager.progressWidget());
-
-    QWidget window;
-    QSignalSpy created(&manager, SIGNAL(windowCreated(QWidget*)));
-    QVERIFY(manager.createProgressWidget(&window, QString::fromLatin1("Jobs"), QString()));
-    QCOMPARE(created.count(), 1);
-    QCOMPARE(created.at(0).at(0).value<QWidget*>(), manager.progressWidget());
-    QCOMPARE(manager.progressWidget()->parentWidget(), &window);
-    QCOMPARE(manager.progressWidget()->windowTitle(), QString::fromLatin1("Jobs"));
-    QCOMPARE(manager.progressWidget()->objectName(), QString::fromLatin1("Progress.1"));
-}
 
 // One test, as there is one first time in a process.
 void tst_DialogProgressManager::placeComesBackOnce()

@@ -33,7 +33,6 @@ class tst_ProgressTask : public QObject
 private Q_SLOTS:
     void worksWithoutManager();
     void firstManagerIsInstance();
-    void recordStartsAsDescribed();
     void everyChangeWakesOnce_data();
     void everyChangeWakesOnce();
     void failingWaitsForNobody();
@@ -68,18 +67,6 @@ void tst_ProgressTask::firstManagerIsInstance()
     const ProgressTask other(QString(), 10, 0, nullptr, &second);
     QCOMPARE(first.tasksCount(), 1);
     QCOMPARE(other.tasksCount(), 1);
-}
-
-void tst_ProgressTask::recordStartsAsDescribed()
-{
-    ProgressManager manager;
-    ProgressTask task(QString::fromLatin1("name"), 10, ProgressTask::kModal, nullptr, &manager);
-    const auto record = lastRecord(manager);
-    QVERIFY(qAbs(record->startTime.msecsTo(QTime::currentTime())) < 60000);
-    QCOMPARE(record->name, QString::fromLatin1("name"));
-    QCOMPARE(int(record->maximum), 10);
-    QCOMPARE(task.progress(), -1);
-    QCOMPARE(int(record->flags), 32);
 }
 
 void tst_ProgressTask::everyChangeWakesOnce_data()

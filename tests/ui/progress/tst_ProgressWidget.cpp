@@ -68,8 +68,6 @@ class tst_ProgressWidget : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void partsFollowFlags_data();
-    void partsFollowFlags();
     void refreshShowsTask();
     void pausesAndResumes();
     void pausesNobody();
@@ -79,30 +77,6 @@ private Q_SLOTS:
     void outlivesTask();
     void ownerMayDeleteRow();
 };
-
-void tst_ProgressWidget::partsFollowFlags_data()
-{
-    QTest::addColumn<int>("flags");
-    QTest::addColumn<bool>("cancel");
-    QTest::addColumn<bool>("pause");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("none") << 0 << false << false << true;
-    QTest::newRow("cancel") << int(ProgressTask::kUserCanCancel) << true << false << true;
-    QTest::newRow("pause, disabled") << (ProgressTask::kUserCanPause | ProgressTask::kDisable) << false
-                                     << true << false;
-}
-
-void tst_ProgressWidget::partsFollowFlags()
-{
-    QFETCH(int, flags);
-    const Scene scene(flags);
-    QTEST(scene.button("Cancel") != nullptr, "cancel");
-    QTEST(scene.button("Pause") != nullptr, "pause");
-    QTEST(scene.row->isEnabled(), "enabled");
-    QCOMPARE(scene.row->sizeHint(), QSize(340, 80));
-    QCOMPARE(scene.row->minimumSize(), QSize(320, 80));
-    QCOMPARE(scene.row->maximumHeight(), 80);
-}
 
 void tst_ProgressWidget::refreshShowsTask()
 {

@@ -17,11 +17,8 @@ private Q_SLOTS:
     void valuesBecomePositions();
     void wrongUseThrows();
     void extremeRangesStayWithinIntegers();
-    void sizeHintsHaveRoomForLabels();
     void marksFollowTheGroove_data();
     void marksFollowTheGroove();
-    void defaultColoursComeFromThePalette();
-    void withoutTicksItIsAPlainSlider();
 };
 
 namespace {
@@ -122,21 +119,6 @@ void tst_LogSlider::extremeRangesStayWithinIntegers()
     imageOf(slider);
 }
 
-void tst_LogSlider::sizeHintsHaveRoomForLabels()
-{
-    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
-        const QSize room = orientation == Qt::Horizontal ? QSize(0, 11) : QSize(11, 0);
-        const QSlider plain(orientation);
-        LogSlider slider(orientation);
-        slider.setTickTextSize(11);
-        QCOMPARE(slider.sizeHint(), plain.sizeHint() + room);
-        QCOMPARE(slider.minimumSizeHint(), plain.minimumSizeHint() + room);
-        slider.setDrawLogTicks(false);
-        QCOMPARE(slider.sizeHint(), plain.sizeHint());
-        QCOMPARE(slider.minimumSizeHint(), plain.minimumSizeHint());
-    }
-}
-
 void tst_LogSlider::marksFollowTheGroove_data()
 {
     QTest::addColumn<int>("orientation");
@@ -171,32 +153,6 @@ void tst_LogSlider::marksFollowTheGroove()
     slider.setRealValue(1000);
     image = imageOf(slider);
     QCOMPARE(placesOf(image, slider.expTickColor(), isVertical).contains(rises ? 400 : 0), false);
-}
-
-void tst_LogSlider::defaultColoursComeFromThePalette()
-{
-    LogSlider slider(Qt::Horizontal);
-    slider.resize(300, 40);
-    imageOf(slider);
-    QVERIFY(!slider.tickColor().isValid());
-    slider.setRealRange(0, 2, 10);
-    imageOf(slider);
-    const QColor midlight = slider.palette().color(QPalette::Midlight);
-    QCOMPARE(slider.tickColor(), midlight);
-    QCOMPARE(slider.expTickColor(), midlight.darker(170));
-}
-
-void tst_LogSlider::withoutTicksItIsAPlainSlider()
-{
-    QSlider plain(Qt::Horizontal);
-    LogSlider slider(Qt::Horizontal);
-    plain.resize(300, 40);
-    slider.resize(300, 40);
-    plain.setRange(0, 200);
-    slider.setRealRange(0, 2, 100);
-    QVERIFY(imageOf(slider) != imageOf(plain));
-    slider.setDrawLogTicks(false);
-    QCOMPARE(imageOf(slider), imageOf(plain));
 }
 
 QTEST_MAIN(tst_LogSlider)

@@ -12,7 +12,6 @@ class tst_Slider : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void startsAsItsTypeSays();
     void boundsAreSwappedAndValueStays();
     void numbersThatAreNotFiniteAreIgnored();
     void dragSnapsToRoundValues_data();
@@ -91,22 +90,6 @@ void drag(Slider* slider, int position)
 }
 
 } // namespace
-
-void tst_Slider::startsAsItsTypeSays()
-{
-    const Slider real(Slider::RealValue, Slider::LogMode, Qt::Vertical, nullptr);
-    QCOMPARE(real.value(), 0.5);
-    QCOMPARE(real.maximum(), 1.0);
-    QCOMPARE(real.step(), 0.01);
-    QCOMPARE(real.focusPolicy(), Qt::NoFocus);
-    QVERIFY(real.autoFillBackground());
-    QCOMPARE(real.minimumSize(), QSize(20, 30));
-    QCOMPARE(real.sizeHint(), QSize(20, 30));
-    const Slider integer(Slider::IntegerValue, Slider::LinearMode, Qt::Horizontal, nullptr);
-    QCOMPARE(integer.value(), 0.0);
-    QCOMPARE(integer.rangeDelta(), 100.0);
-    QCOMPARE(integer.step(), 1.0);
-}
 
 void tst_Slider::boundsAreSwappedAndValueStays()
 {

@@ -17,17 +17,13 @@ class tst_BubbleWidget : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void marginsMakeRoomForPin_data();
-    void marginsMakeRoomForPin();
     void sideIsChosen_data();
     void sideIsChosen();
     void outlineIsClosedPolygon_data();
     void outlineIsClosedPolygon();
-    void cornersAreRound();
     void pinStaysOffCorners();
     void popsUpNearEveryEdge_data();
     void popsUpNearEveryEdge();
-    void withoutRoomCoversTarget();
     void cutShapeIsFilled();
     void isDraggedIfMovable();
 };
@@ -64,31 +60,6 @@ public:
 };
 
 } // namespace
-
-void tst_BubbleWidget::marginsMakeRoomForPin_data()
-{
-    QTest::addColumn<Qt::Alignment>("alignment");
-    QTest::addColumn<QRect>("contents"); // of a bubble of 100 x 100
-    QTest::newRow("top") << Qt::Alignment(Qt::AlignTop) << QRect(5, 17, 90, 78);
-    QTest::newRow("bottom") << Qt::Alignment(Qt::AlignBottom) << QRect(5, 5, 90, 78);
-    QTest::newRow("left") << Qt::Alignment(Qt::AlignLeft) << QRect(17, 5, 78, 90);
-    QTest::newRow("right") << Qt::Alignment(Qt::AlignRight) << QRect(5, 5, 78, 90);
-    QTest::newRow("several") << (Qt::AlignBottom | Qt::AlignRight) << QRect(5, 5, 90, 78);
-    QTest::newRow("none") << kNone << QRect(8, 8, 84, 64);
-}
-
-void tst_BubbleWidget::marginsMakeRoomForPin()
-{
-    QFETCH(Qt::Alignment, alignment);
-    Bubble bubble;
-    bubble.setMargin(5);
-    bubble.setPinHeight(12);
-    bubble.resize(100, 100);
-    QCOMPARE(bubble.contentsRect(), QRect(8, 8, 84, 64));
-    bubble.setPinAlignment(alignment);
-    QCOMPARE(bubble.pinAlignment(), alignment);
-    QTEST(bubble.contentsRect(), "contents");
-}
 
 void tst_BubbleWidget::sideIsChosen_data()
 {
@@ -139,19 +110,6 @@ void tst_BubbleWidget::outlineIsClosedPolygon()
         points.append(latin1("%1,%2").arg(path.elementAt(i).x).arg(path.elementAt(i).y));
     QCOMPARE(points.takeLast(), points.first());
     QTEST(points.join(latin1(" ")), "polygon");
-}
-
-void tst_BubbleWidget::cornersAreRound()
-{
-    Bubble bubble;
-    bubble.resize(104, 84);
-    const QPainterPath path = bubble.bubblePath();
-    QCOMPARE(path.boundingRect(), QRectF(2, 2, 100, 75));
-    QCOMPARE(QPointF(path.elementAt(0)), QPointF(2, 6));
-    for (const QPointF& corner : {QPointF(3, 3), QPointF(101, 3), QPointF(101, 61), QPointF(3, 61)})
-        QVERIFY(!path.contains(corner));
-    for (const QPointF& inside : {QPointF(4, 4), QPointF(100, 4), QPointF(100, 60), QPointF(4, 60)})
-        QVERIFY(path.contains(inside));
 }
 
 void tst_BubbleWidget::pinStaysOffCorners()
@@ -213,20 +171,6 @@ void tst_BubbleWidget::popsUpNearEveryEdge()
         QVERIFY(qAbs(bubble.tipX() - qBound(nearest, middle.x(), farthest)) <= 1);
         bubble.hide();
     }
-}
-
-void tst_BubbleWidget::withoutRoomCoversTarget()
-{
-    Bubble bubble;
-    bubble.setFixedSize(300, 200);
-    const QRect available = Screens::availableGeometry(0);
-    const QMargins margins = bubble.contentsMargins();
-    bubble.popup(available);
-    QCOMPARE(bubble.pinAlignment(), kNone);
-    QCOMPARE(bubble.contentsMargins(), margins);
-    QCOMPARE(bubble.pos(), centreOf(available));
-    bubble.popup(available.topLeft() + QPoint(400, 300));
-    QCOMPARE(bubble.pinAlignment(), Qt::Alignment(Qt::AlignTop));
 }
 
 // A pixel that is left transparent is black on such a desktop.

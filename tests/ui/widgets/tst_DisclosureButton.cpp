@@ -23,8 +23,6 @@ private Q_SLOTS:
     void nestedButtonsUpdateInOrderAdded();
     void widgetInTwoGroups();
     void removedWidgetIsLeftAlone();
-    void triangleIsPainted_data();
-    void triangleIsPainted();
 };
 
 namespace {
@@ -218,44 +216,6 @@ void tst_DisclosureButton::removedWidgetIsLeftAlone()
     QVERIFY(section.isVisible());
     QVERIFY(section.isDisclosed());
     QVERIFY(!twice.isVisible());
-}
-
-void tst_DisclosureButton::triangleIsPainted_data()
-{
-    QTest::addColumn<bool>("checked");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QColor>("triangleColor");
-    QTest::addColumn<QColor>("colour");
-    QTest::newRow("open") << true << true << QColor() << QColor(Qt::black);
-    QTest::newRow("closed") << false << true << QColor() << QColor(Qt::black);
-    QTest::newRow("open, disabled") << true << false << QColor(Qt::red) << QColor(Qt::yellow);
-    QTest::newRow("closed, disabled") << false << false << QColor() << QColor(Qt::yellow);
-    QTest::newRow("chosen colour") << true << true << QColor(Qt::red) << QColor(Qt::red);
-}
-
-void tst_DisclosureButton::triangleIsPainted()
-{
-    QFETCH(bool, checked);
-    QFETCH(bool, enabled);
-    QFETCH(QColor, triangleColor);
-    QFETCH(QColor, colour);
-    QWidget window;
-    QPalette palette(Qt::magenta);
-    palette.setColor(QPalette::Disabled, QPalette::Light, Qt::yellow);
-    window.setPalette(palette);
-    DisclosureButton button(&window, true);
-    button.setLayoutDirection(Qt::RightToLeft);
-    button.resize(60, 40);
-    button.setChecked(checked);
-    button.setEnabled(enabled);
-    button.setTriangleColor(triangleColor);
-
-    const QImage image = grabPixmap(&window).toImage();
-    const QColor ground = window.palette().color(QPalette::Window);
-    QCOMPARE(QColor(image.pixel(6, 5)), colour);
-    QCOMPARE(QColor(image.pixel(11, 3)), checked ? colour : ground);
-    QCOMPARE(QColor(image.pixel(5, 9)), checked ? ground : colour);
-    QCOMPARE(QColor(image.pixel(14, 7)), ground);
 }
 
 QTEST_MAIN(tst_DisclosureButton)

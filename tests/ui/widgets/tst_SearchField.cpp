@@ -18,8 +18,6 @@ private Q_SLOTS:
     void textFromCodeWaitsForFocus();
     void cancelButtonClears();
     void cancelButtonStays();
-    void controlsArePlaced_data();
-    void controlsArePlaced();
 };
 
 namespace {
@@ -120,53 +118,6 @@ void tst_SearchField::cancelButtonStays()
     field.setHasCancelButton(false);
     QVERIFY(field.hasCancelButton());
     QCOMPARE(int(field.findChildren<FlatButton*>().size()), 1);
-}
-
-void tst_SearchField::controlsArePlaced_data()
-{
-    QTest::addColumn<bool>("hasLeftWidget");
-    QTest::addColumn<int>("pointSize");
-    QTest::addColumn<bool>("shownFirst");
-    QTest::newRow("plain") << false << 10 << false;
-    QTest::newRow("left widget") << true << 10 << false;
-    QTest::newRow("large font") << true << 30 << false;
-    // No layout would resize the field for them.
-    QTest::newRow("decorated after it was shown") << true << 10 << true;
-}
-
-void tst_SearchField::controlsArePlaced()
-{
-    QFETCH(bool, hasLeftWidget);
-    QFETCH(int, pointSize);
-    QFETCH(bool, shownFirst);
-    QWidget window;
-    QLineEdit other(&window);
-    other.setFocus();
-    SearchField field(&window);
-    field.resize(200, 61);
-    if (shownFirst)
-        QVERIFY(Desk::activate(&window));
-    QWidget menu(&field);
-    menu.setFixedSize(18, 12);
-    if (hasLeftWidget)
-        field.setLeftWidget(&menu);
-    field.setPrompt(latin1("Find"));
-    field.setPrompt(latin1("A longer prompt"));
-    field.setHasCancelButton(true);
-    QVERIFY(Desk::activate(&window));
-    QFont font = field.font();
-    font.setPointSize(pointSize);
-    field.setFont(font);
-
-    const QLabel* const prompt = field.findChild<QLabel*>();
-    WAIT_FOR(prompt->y() == (61 - prompt->height()) / 2);
-    QCOMPARE(prompt->size(), prompt->sizeHint());
-    QCOMPARE(prompt->x(), hasLeftWidget ? 27 : 7);
-    const QRect cancel = field.findChild<FlatButton*>()->geometry();
-    QCOMPARE(cancel, QRect(field.rect().right() - 5 - 13, 23, 14, 14));
-    QCOMPARE(field.textMargins(), QMargins(hasLeftWidget ? 25 : 6, 0, 20, 0));
-    if (hasLeftWidget)
-        QCOMPARE(menu.geometry(), QRect(6, 24, 18, 12));
 }
 
 QTEST_MAIN(tst_SearchField)

@@ -39,7 +39,6 @@ private Q_SLOTS:
     void stacks_data();
     void stacks();
     void expandsFirstItem();
-    void itemsByIndex();
     void hiddenWidgetTakesNoRoom();
 };
 
@@ -100,18 +99,6 @@ void tst_VerticalLayout::expandsFirstItem()
     layout.setGeometry(QRect(0, 0, 100, 200));
     QCOMPARE(layout.itemAt(0)->geometry(), QRect(1, 2, 96, 194));
     QCOMPARE(layout.itemAt(1)->geometry(), QRect());
-}
-
-void tst_VerticalLayout::itemsByIndex()
-{
-    VerticalLayout layout(0);
-    layout.addItem(new Item(20));
-    QVERIFY(!layout.itemAt(-1) && !layout.itemAt(1));
-    QVERIFY(!layout.takeAt(-1) && !layout.takeAt(1));
-    QLayoutItem* const item = layout.itemAt(0);
-    QCOMPARE(layout.takeAt(0), item);
-    QCOMPARE(layout.count(), 0);
-    delete item;
 }
 
 void tst_VerticalLayout::hiddenWidgetTakesNoRoom()
