@@ -230,8 +230,12 @@ void tst_ColorWheelDrag::squareIsDragged()
         QVERIFY(isNear(wheel.hue(), 0.25));
     }
     wheel.record.clear();
-    Hand(&wheel, QPoint(100, 33));
-    Hand(&wheel, QPoint(5, 5));
+    {
+        const Hand hand(&wheel, QPoint(100, 33));
+    }
+    {
+        const Hand hand(&wheel, QPoint(5, 5));
+    }
     QCOMPARE(wheel.record, QString());
 }
 

@@ -40,7 +40,7 @@ public:
 
     QString take()
     {
-        const QString all = m_reports.join(QLatin1String(", "));
+        QString all = m_reports.join(QLatin1String(", "));
         m_reports.clear();
         return all;
     }

@@ -136,7 +136,8 @@ void tst_BubbleWidget::popsUpNearEveryEdge_data()
     QTest::addColumn<QPointF>("place"); // of the target on the screen: (0, 0) top left, (1, 1) bottom right
     for (int screen = 0; screen < Screens::count(); ++screen) {
         for (int i = 0; i < 9; ++i) {
-            const QPointF place(i % 3 / 2.0, i / 3 / 2.0);
+            const int row = i / 3;
+            const QPointF place(i % 3 / 2.0, row / 2.0);
             const QString name = latin1("screen %1: %2, %3").arg(screen).arg(place.x()).arg(place.y());
             QTest::newRow(name.toLatin1()) << screen << place;
         }
