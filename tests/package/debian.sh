@@ -26,8 +26,9 @@ case "$(dpkg-deb --field "$2" Depends)" in
 *"libnorvane-core1 (= $version)"*) ;;
 *) fail "$2 does not depend on the same version of the library" ;;
 esac
+unpacked=$folder/root
 for package; do
-    dpkg-deb --extract "$package" "$folder/root"
+    dpkg-deb --extract "$package" "$unpacked"
     copyright=usr/share/doc/$(dpkg-deb --field "$package" Package)/copyright
-    [ -s "$folder/root/$copyright" ] || fail "$package has no $copyright"
+    [ -s "$unpacked/$copyright" ] || fail "$package has no $copyright"
 done
