@@ -56,7 +56,10 @@ void HostWindow::saveFrame()
     const ViewerPanel* const viewer = focusedViewer();
     if (!viewer || viewer->picture().isNull())
         return;
-    const QString folder = QFileInfo(Pictures::filePath(viewer->picturePath())).path();
+    const QString source = Pictures::filePath(viewer->picturePath());
+    // The samples are inside the program, where nothing can be saved.
+    const bool isOurs = source.startsWith(QLatin1Char(':'));
+    const QString folder = isOurs ? QDir::homePath() : QFileInfo(source).path();
     FrameSaveDialog dialog(folder, formatOf(*viewer).layout, this);
     if (dialog.exec() == QDialog::Accepted)
         saveFrameAs(*viewer, dialog.frameLayout(), dialog.selectedFiles().first());
