@@ -52,37 +52,26 @@ private Q_SLOTS:
     void add(Norvane::UI::Dock* dock, QWidget* widget)
     {
         Norvane::UI::Dock* const known = m_account.value(widget);
-        expect(!known || known == dock, "reported as added while in another pane: ", widget);
+        expect(!known, "reported as added while in a pane: ", widget);
         m_account.insert(widget, dock);
-        m_announced.remove(widget);
         connect(widget, SIGNAL(destroyed(QObject*)), this, SLOT(forget(QObject*)), Qt::UniqueConnection);
         whenReported(kAdded, dock, widget);
     }
 
     void remove(Norvane::UI::Dock* dock, QWidget* widget)
     {
-        expect(m_account.value(widget) == dock || m_announced.value(widget) == dock,
-               "reported as removed from a pane where it was not: ", widget);
+        expect(m_account.value(widget) == dock, "reported as removed from a pane where it was not: ", widget);
         m_account.remove(widget);
-        m_announced.remove(widget);
         whenReported(kRemoved, dock, widget);
     }
 
     void activate(Norvane::UI::Dock* dock, QWidget* widget)
     {
         expect(dock->currentWidget() == widget, "reported as activated but not current: ", widget);
-        if (widget && !m_account.contains(widget)) {
-            m_announced.insert(widget, dock);
-            connect(widget, SIGNAL(destroyed(QObject*)), this, SLOT(forget(QObject*)), Qt::UniqueConnection);
-        }
         whenReported(kActivated, dock, widget);
     }
 
-    void forget(QObject* widget)
-    {
-        m_account.remove(widget);
-        m_announced.remove(widget);
-    }
+    void forget(QObject* widget) { m_account.remove(widget); }
 
 private:
     void expect(bool holds, const char* problem, const QObject* object = nullptr)
@@ -146,9 +135,6 @@ private:
 
     const QPointer<DockMainWindow> m_mainWindow;
     QHash<QObject*, Dock*> m_account;
-    /// The first panel of a pane is reported as activated before it is reported as added, and may go in
-    /// between.
-    QHash<QObject*, Dock*> m_announced;
     QStringList m_problems;
     QList<Dock*> m_panes;
     const QWidget* m_home = nullptr;

@@ -269,15 +269,18 @@ void Dock::updateTitles()
 
 void Dock::Private::reportAdded(QWidget* widget)
 {
-    // A host that heard of the panel's activation may have taken it away again.
-    if (controller && stack->indexOf(widget) >= 0)
-        controller->emitWidgetAdded(q, widget);
+    // A host that heard of the panel's activation may have taken it away again, or have added it itself.
+    if (!controller || stack->indexOf(widget) < 0 || reported.contains(widget))
+        return;
+    reported.removeAll(QPointer<QWidget>());
+    reported.append(widget);
+    controller->emitWidgetAdded(q, widget);
 }
 
 void Dock::Private::reportRemoved(QWidget* widget)
 {
-    // Or brought it back.
-    if (controller && stack->indexOf(widget) < 0)
+    // Or brought it back. Place holders, and panels that go before they are reported, leave in silence.
+    if (controller && stack->indexOf(widget) < 0 && reported.removeOne(widget))
         controller->emitWidgetRemoved(q, widget);
 }
 

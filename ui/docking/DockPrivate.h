@@ -83,6 +83,8 @@ struct Dock::Private {
 
     /// The panels by index, to know which one the stack has lost.
     QList<QPointer<QWidget>> panels;
+    /// Those that the controller has reported as added and not as removed: it reports both in turn.
+    QList<QPointer<QWidget>> reported;
     /// The panel whose loss the pane itself brings about and reports.
     QWidget* leaving = nullptr;
     /// The current tab has changed in silence.

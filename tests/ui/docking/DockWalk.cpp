@@ -259,9 +259,12 @@ void DockWalk::replacePlaceHolder()
 {
     const QPointer<Panel> panel(homelessPanel());
     Dock* const pane = anyPane();
-    const QWidget* const placeHolder = pane->restorePlaceHolderForWidget(panel);
-    if (m_hasMeddled && panel && !panel->parentWidget())
-        panel->hide();
+    QWidget* const placeHolder = pane->restorePlaceHolderForWidget(panel);
+    if (m_hasMeddled) {
+        if (panel && !panel->parentWidget())
+            panel->hide();
+        delete placeHolder;
+    }
     if (!placeHolder || m_hasMeddled)
         return;
     const int index = pane->count() - 1;
