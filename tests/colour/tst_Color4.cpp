@@ -13,13 +13,10 @@ class tst_Color4 : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void nullPointersAreSkipped();
     void alphaIsLeftAlone();
     void viewsComeBack();
     void arithmetic_data();
     void arithmetic();
-    void extremeComponents();
-    void hueRotation();
     void packsIntoBytes_data();
     void packsIntoBytes();
 };
@@ -55,20 +52,6 @@ typedef Color4 (*Operation)(Color4);
 } // namespace
 
 Q_DECLARE_METATYPE(Operation)
-
-void tst_Color4::nullPointersAreSkipped()
-{
-    const Color4 color(0.75f, 0.5f, 0.25f, 0.125f);
-    float alpha = 0, intensity = 0;
-    color.getRGBA(nullptr, nullptr, nullptr, &alpha);
-    color.getTemperatureMagentaGreenIntensity(nullptr, nullptr, &intensity);
-    QCOMPARE(alpha, 0.125f);
-    QCOMPARE(intensity, 0.5f);
-    color.getRGBA(nullptr, nullptr, nullptr, nullptr);
-    QVERIFY(color.getHSV(nullptr, nullptr, nullptr));
-    color.getHSL(nullptr, nullptr, nullptr);
-    color.getTemperatureMagentaGreenIntensity(nullptr, nullptr, nullptr);
-}
 
 void tst_Color4::alphaIsLeftAlone()
 {
@@ -130,29 +113,6 @@ void tst_Color4::arithmetic()
     QFETCH(Color4, expected);
     const Color4 result = operation(Color4(-0.5f, 0.5f, 2, 0.5f));
     QVERIFY2(same(result, expected), told(result).constData());
-}
-
-void tst_Color4::extremeComponents()
-{
-    const Color4 color(0.5f, -3, 0.25f, 9);
-    QCOMPARE(color.minComponent(), -3.0f);
-    QCOMPARE(color.maxComponent(), 0.5f);
-    QCOMPARE(Color4(1, 2, 3, -9).minComponent(), 1.0f);
-    QCOMPARE(Color4(1, 2, 3, -9).maxComponent(), 3.0f);
-}
-
-// Only a colour without a hue is touched, and it has no hue to turn: nothing ever changes.
-void tst_Color4::hueRotation()
-{
-    const Color4 colors[] = {Color4(1, 0, 0, 0.5f), Color4(0.25f, 0.25f, 0.25f, 0.5f),
-                             Color4(0.5f, 0.5f, 0.50001f, 1), Color4(0, 0, 0, 1), Color4(-2, -2, -2, 1)};
-    for (const Color4& color : colors) {
-        for (const float degrees : {0.0f, 120.0f, -120.0f, 720.5f, -1e9f, kInfinity, kNaN}) {
-            Color4 rotated(color);
-            rotated.rotateHue(degrees);
-            QVERIFY2(same(rotated, color), told(rotated).constData());
-        }
-    }
 }
 
 void tst_Color4::packsIntoBytes_data()

@@ -71,7 +71,6 @@ private Q_SLOTS:
     void rotationTurnsPicture();
     void dragRepaintsWhatMoved_data();
     void dragRepaintsWhatMoved();
-    void keyboardFocusIsFramed();
     void anySizeAndColorIsPainted();
 };
 
@@ -234,23 +233,6 @@ void tst_ColorWheel::dragRepaintsWhatMoved()
         QVERIFY(!painted.isEmpty());
         QCOMPARE(painted != QRegion(wheel.rect()), partly);
     }
-}
-
-void tst_ColorWheel::keyboardFocusIsFramed()
-{
-    Wheel wheel(ColorWheel::kDisc);
-    wheel.show();
-    wheel.activateWindow();
-    const auto corner = [&](Qt::FocusReason reason) {
-        wheel.clearFocus();
-        wheel.setFocus(reason);
-        return wheel.picture().copy(0, 0, 20, 20);
-    };
-    WAIT_FOR(wheel.isActiveWindow());
-    const QImage clicked = corner(Qt::MouseFocusReason);
-    QVERIFY(corner(Qt::TabFocusReason) != clicked);
-    QCOMPARE(wheel.picture().pixel(180, 100), Wheel(ColorWheel::kDisc).picture().pixel(180, 100));
-    QCOMPARE(corner(Qt::MouseFocusReason), clicked);
 }
 
 void tst_ColorWheel::anySizeAndColorIsPainted()

@@ -19,7 +19,6 @@ class tst_SliderAccessible : public QObject
 private Q_SLOTS:
     void cleanup();
     void changesAreAnnounced();
-    void sliderTellsItsValue();
     void userOfAssistiveTechnologyIsReported_data();
     void userOfAssistiveTechnologyIsReported();
     void logSliderTellsRealValues();
@@ -64,23 +63,6 @@ void tst_SliderAccessible::changesAreAnnounced()
     announced.clear();
     logSlider.setRealValue(10);
     QCOMPARE(int(announced.size()), 1);
-}
-
-void tst_SliderAccessible::sliderTellsItsValue()
-{
-    Slider slider(Slider::RealValue, Slider::LogMode, Qt::Horizontal, nullptr);
-    slider.setAccessibleName(QLatin1String("Exposure"));
-    slider.setRange(-4, 9);
-    slider.setStep(0.25);
-    slider.setValue(1.5);
-    QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&slider);
-    QCOMPARE(interface->role(), QAccessible::Slider);
-    QCOMPARE(interface->text(QAccessible::Name), QString::fromLatin1("Exposure"));
-    QCOMPARE(interface->text(QAccessible::Value), QString::fromLatin1("1.5"));
-    QCOMPARE(valueOf(&slider)->currentValue().toDouble(), 1.5);
-    QCOMPARE(valueOf(&slider)->minimumValue().toDouble(), -4.0);
-    QCOMPARE(valueOf(&slider)->maximumValue().toDouble(), 9.0);
-    QCOMPARE(valueOf(&slider)->minimumStepSize().toDouble(), 0.25);
 }
 
 void tst_SliderAccessible::userOfAssistiveTechnologyIsReported_data()

@@ -20,7 +20,6 @@ private Q_SLOTS:
     void addedWidgetIsShownOrHidden();
     void nestOpensTheSameAtAnyAddress_data();
     void nestOpensTheSameAtAnyAddress();
-    void nestedButtonsUpdateInOrderAdded();
     void widgetInTwoGroups();
     void removedWidgetIsLeftAlone();
 };
@@ -150,28 +149,6 @@ void tst_DisclosureButton::nestOpensTheSameAtAnyAddress()
     click(outer);
     // Every button of the shared section is checked, though one is not to be seen.
     QCOMPARE(visibleOf(all), QString::fromLatin1("1001"));
-}
-
-// A plain widget in a closed and an open group of the same nest is as the button added last wants it.
-void tst_DisclosureButton::nestedButtonsUpdateInOrderAdded()
-{
-    for (int closedPlace = 0; closedPlace < 2; ++closedPlace) {
-        QWidget form;
-        const QList<Button*> buttons = buttonsOf(&form, 2);
-        Button* const closed = buttons[closedPlace];
-        Button* const open = buttons[1 - closedPlace];
-        QWidget widget(&form);
-        Button outer(&form);
-        form.show();
-        outer.addWidget(closed);
-        outer.addWidget(open);
-        open->addWidget(&widget);
-        closed->addWidget(&widget);
-        click(closed);
-        click(&outer);
-        click(&outer);
-        QVERIFY(widget.isVisible());
-    }
 }
 
 // A plain widget is as the button updated last wants it, a section is shown if both are checked.
