@@ -112,6 +112,7 @@ private:
             expect(bar->tabText(i) == panel->windowTitle(), "another tab title than the panel's: ", panel);
             expect(panel->isVisibleTo(pane) == (i == pane->currentTab()), "wrongly shown or hidden: ", panel);
             expect(m_account.value(panel) == pane, "in a pane that has not been reported: ", panel);
+            expect(!panel->internalWinId(), "in a pane with a window of its own: ", panel);
         }
     }
 

@@ -3,6 +3,7 @@
 #include <ui/docking/DockPrivate.h>
 #include <ui/docking/DockTabBar.h>
 #include <ui/docking/HoverWidget.h>
+#include <ui/toolkit/NativeWindow.h>
 
 #include <QApplication>
 #include <QCursor>
@@ -31,6 +32,7 @@ void land(QWidget* panel)
     panel->hide();
     panel->setWindowFlags(Qt::Widget);
     panel->setWindowOpacity(1.0);
+    releaseNativeWindow(panel);
 }
 
 } // namespace
