@@ -71,6 +71,12 @@ void RandomUser::rest()
     m_duration = kRestTime;
     m_time.start();
     m_planned.clear();
+    // A stray key may have written something, and notes with a text are kept when they are closed.
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* const widget : widgets) {
+        if (widget->inherits("Norvane::Host::NotesPanel"))
+            QMetaObject::invokeMethod(widget, "clear");
+    }
     for (int i = 0; i < 4; ++i)
         m_planned.append(words("key Escape"));
     // Panels that are not in it are deleted, with what they have read and shrunk.
@@ -186,7 +192,6 @@ RandomUser::Gesture RandomUser::lookAround()
     return way == ways.first() ? drag(point, pointIn(picture)) : click(point) << way.split(QLatin1Char(':'));
 }
 
-// None that writes: notes with a text are kept when they are closed.
 RandomUser::Gesture RandomUser::pressKeys()
 {
     const QStringList keys =
@@ -216,7 +221,6 @@ RandomUser::Gesture RandomUser::runScript()
     return typeInto(prompt, QString::fromLatin1(lines[upTo(5)])) << words("key Return");
 }
 
-// What lies over the line may take the click, and notes with a text are kept when they are closed.
 RandomUser::Gesture RandomUser::typeInto(const QLineEdit* line, const QString& text)
 {
     m_planned.append(click(pointIn(line)));

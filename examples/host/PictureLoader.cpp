@@ -15,8 +15,9 @@ public:
     {
     }
 
-    /// Both are for the time after finished().
+    /// For the time after finished(). What is read shrunk has no levels.
     QImage picture;
+    PictureLevels levels;
     QString problem;
 
 protected:
@@ -24,11 +25,13 @@ protected:
     {
         picture = Pictures::read(m_path, m_largest, &problem,
                                  [this](qint64 done, qint64 all) { return goOn(done, all); });
-        if (!isCancelled())
-            return;
-        // Some decoders make the best of half a file.
-        picture = QImage();
-        problem = PictureLoader::tr("Loading was cancelled.");
+        if (isCancelled()) {
+            // Some decoders make the best of half a file.
+            picture = QImage();
+            problem = PictureLoader::tr("Loading was cancelled.");
+        } else if (!m_largest.isValid()) {
+            levels = picture;
+        }
     }
 
 private:
@@ -56,11 +59,17 @@ void PictureLoader::load(const QString& path, const QSize& largest)
 
 void PictureLoader::cancel()
 {
+    m_levels = PictureLevels();
     if (!m_reading)
         return;
     disconnect(m_reading, nullptr, this, nullptr);
     m_reading->cancel();
     m_reading = nullptr;
+}
+
+const PictureLevels& PictureLoader::levels() const
+{
+    return m_levels;
 }
 
 bool PictureLoader::isLoading() const
@@ -72,6 +81,7 @@ void PictureLoader::report()
 {
     const QImage picture = m_reading->picture;
     const QString problem = m_reading->problem;
+    m_levels = m_reading->levels;
     m_reading = nullptr;
     Q_EMIT loaded(picture, problem);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PictureLevels.h"
+
 #include <QImage>
 #include <QObject>
 #include <QPointer>
@@ -25,6 +27,9 @@ public:
     /// Gives up what is being read: it will not be reported.
     void cancel();
     bool isLoading() const;
+    /// The whole picture that was reported last, made ready for painting. Gone with the next load() or
+    /// cancel().
+    const PictureLevels& levels() const;
 
 Q_SIGNALS:
     /// The picture that was asked for last. It is null, with a sentence in \a problem, if it could not be
@@ -36,6 +41,7 @@ private Q_SLOTS:
 
 private:
     QPointer<PictureReading> m_reading;
+    PictureLevels m_levels;
 };
 
 }} // namespace Norvane::Host

@@ -32,12 +32,12 @@ PictureView::PictureView(QWidget* parent)
 
 const QImage& PictureView::picture() const
 {
-    return m_picture;
+    return m_levels.picture();
 }
 
-void PictureView::setPicture(const QImage& picture)
+void PictureView::setPicture(const PictureLevels& levels)
 {
-    takePicture(picture);
+    takePicture(levels);
     setAccessibleDescription(QString());
     update();
 }
@@ -46,18 +46,17 @@ void PictureView::setMessage(const QString& title, const QString& detail)
 {
     m_title = title;
     m_detail = detail;
-    takePicture(QImage());
+    takePicture(PictureLevels());
     setAccessibleDescription(title);
     QTimer::singleShot(kMessageDelay, this, SLOT(update()));
 }
 
-void PictureView::takePicture(const QImage& picture)
+void PictureView::takePicture(const PictureLevels& levels)
 {
-    m_picture = picture;
-    m_levels.clear();
+    m_levels = levels;
     m_panning = false;
     if (m_fitted)
-        m_center = QPointF(picture.width(), picture.height()) / 2;
+        m_center = QPointF(picture().width(), picture().height()) / 2;
     updateCursor();
     Q_EMIT viewChanged();
     Q_EMIT colorsChanged();
@@ -70,7 +69,7 @@ bool PictureView::isFitted() const
 
 qreal PictureView::zoom() const
 {
-    return m_fitted ? fitScale(m_picture.size(), size()) * UI::devicePixelRatio(this) : m_zoom;
+    return m_fitted ? fitScale(picture().size(), size()) * UI::devicePixelRatio(this) : m_zoom;
 }
 
 QPointF PictureView::center() const
@@ -108,7 +107,7 @@ QSize PictureView::sizeHint() const
 void PictureView::fitToView()
 {
     m_fitted = true;
-    m_center = QPointF(m_picture.width(), m_picture.height()) / 2;
+    m_center = QPointF(picture().width(), picture().height()) / 2;
     viewHasChanged();
 }
 
@@ -134,28 +133,28 @@ void PictureView::zoomOut()
 
 Placement PictureView::placement() const
 {
-    return placePicture(m_picture.size(), size(), zoom() / UI::devicePixelRatio(this), m_center);
+    return placePicture(picture().size(), size(), zoom() / UI::devicePixelRatio(this), m_center);
 }
 
 void PictureView::zoomAround(const QPointF& viewPoint, qreal zoom)
 {
-    if (m_picture.isNull())
+    if (picture().isNull())
         return;
     const qreal bounded = qBound(kSmallestZoom, zoom, kLargestZoom);
     const qreal scale = bounded / UI::devicePixelRatio(this);
     const QPointF center = centerAfterZoom(placement(), size(), viewPoint, scale);
     setZoom(bounded,
-            placePicture(m_picture.size(), size(), scale, center).toPicture(QRectF(rect()).center()));
+            placePicture(picture().size(), size(), scale, center).toPicture(QRectF(rect()).center()));
 }
 
 void PictureView::pan(const QPointF& distance)
 {
-    if (m_picture.isNull() || m_fitted)
+    if (picture().isNull() || m_fitted)
         return;
     const QPointF middle = QRectF(rect()).center();
     const Placement before = placement();
     const QPointF wanted = before.toPicture(middle - distance);
-    m_center = placePicture(m_picture.size(), size(), before.scale, wanted).toPicture(middle);
+    m_center = placePicture(picture().size(), size(), before.scale, wanted).toPicture(middle);
     viewHasChanged();
 }
 
@@ -222,7 +221,7 @@ void PictureView::keyPressEvent(QKeyEvent* event)
 
 void PictureView::mousePressEvent(QMouseEvent* event)
 {
-    if (m_picture.isNull() || (event->button() != Qt::LeftButton && event->button() != Qt::MiddleButton)) {
+    if (picture().isNull() || (event->button() != Qt::LeftButton && event->button() != Qt::MiddleButton)) {
         QWidget::mousePressEvent(event);
         return;
     }
@@ -249,7 +248,7 @@ void PictureView::mouseReleaseEvent(QMouseEvent* event)
 
 void PictureView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (!m_picture.isNull())
+    if (!picture().isNull())
         mousePressEvent(event);
     else if (event->button() == Qt::LeftButton)
         Q_EMIT pictureWanted();
@@ -264,7 +263,7 @@ void PictureView::reportPixel(const QPointF& viewPoint)
 {
     const QPointF point = placement().toPicture(viewPoint);
     const QPoint pixel(int(std::floor(point.x())), int(std::floor(point.y())));
-    if (m_picture.rect().contains(pixel))
+    if (picture().rect().contains(pixel))
         Q_EMIT pixelPointed(pixel);
     else
         Q_EMIT pixelLeft();
@@ -272,9 +271,9 @@ void PictureView::reportPixel(const QPointF& viewPoint)
 
 void PictureView::updateCursor()
 {
-    const QRectF shown = placement().rect(m_picture.size());
+    const QRectF shown = placement().rect(picture().size());
     const bool larger = shown.width() > width() + 0.5 || shown.height() > height() + 0.5;
-    if (m_picture.isNull() || !larger)
+    if (picture().isNull() || !larger)
         unsetCursor();
     else
         setCursor(m_panning ? Qt::ClosedHandCursor : Qt::OpenHandCursor);

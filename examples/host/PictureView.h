@@ -2,9 +2,8 @@
 
 #include "PictureGeometry.h"
 #include "PictureGrade.h"
+#include "PictureLevels.h"
 
-#include <QImage>
-#include <QList>
 #include <QString>
 #include <QWidget>
 
@@ -22,7 +21,7 @@ public:
 
     const QImage& picture() const;
     /// Keeps zoom and centre, so that they may be set first.
-    void setPicture(const QImage& picture);
+    void setPicture(const PictureLevels& levels);
     /// Takes the picture away and tells this in its place. One that is followed by a picture at once is not
     /// to be seen: the former picture is, until then.
     void setMessage(const QString& title, const QString& detail);
@@ -72,20 +71,17 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void takePicture(const QImage& picture);
+    void takePicture(const PictureLevels& levels);
     Placement placement() const;
     void zoomAround(const QPointF& viewPoint, qreal zoom);
     void pan(const QPointF& distance);
     void viewHasChanged();
     void reportPixel(const QPointF& viewPoint);
     void updateCursor();
-    const QImage& levelFor(qreal zoom);
     void paintPicture(QPainter& painter);
     void paintMessage(QPainter& painter) const;
 
-    QImage m_picture;
-    /// The picture in the format that is painted fastest, then halved and halved again, as far as was needed.
-    QList<QImage> m_levels;
+    PictureLevels m_levels;
     PictureGrade m_grade;
     QString m_title;
     QString m_detail;

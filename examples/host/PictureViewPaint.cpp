@@ -43,31 +43,10 @@ void PictureView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), backgroundOf(palette()));
-    if (m_picture.isNull())
+    if (picture().isNull())
         paintMessage(painter);
     else
         paintPicture(painter);
-}
-
-const QImage& PictureView::levelFor(qreal zoom)
-{
-    if (m_levels.isEmpty()) {
-        const bool alpha = m_picture.hasAlphaChannel();
-        m_levels.append(
-            m_picture.convertToFormat(alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32));
-    }
-    // A painter looks at four pixels for each that it paints, so it must not shrink below a half.
-    int level = 0;
-    for (qreal remaining = zoom; remaining <= 0.5; remaining *= 2) {
-        const QImage& last = m_levels[level];
-        if (last.width() < 2 || last.height() < 2)
-            break;
-        if (level + 1 == m_levels.size())
-            m_levels.append(last.scaled((last.size() + QSize(1, 1)) / 2, Qt::IgnoreAspectRatio,
-                                        Qt::SmoothTransformation));
-        ++level;
-    }
-    return m_levels[level];
 }
 
 void PictureView::paintPicture(QPainter& painter)
@@ -76,12 +55,12 @@ void PictureView::paintPicture(QPainter& painter)
     Placement placed = placement();
     // On whole physical pixels, so that a picture shown one to one stays sharp.
     placed.origin = QPointF(roundedTo(placed.origin.x(), density), roundedTo(placed.origin.y(), density));
-    const QRectF whole = placed.rect(m_picture.size());
-    if (m_picture.hasAlphaChannel()) {
+    const QRectF whole = placed.rect(picture().size());
+    if (picture().hasAlphaChannel()) {
         painter.setBrushOrigin(whole.topLeft());
         painter.fillRect(whole & QRectF(rect()), QBrush(checkerTile()));
     }
-    const QImage& level = levelFor(zoom());
+    const QImage level = m_levels.levelFor(zoom());
     const QRect pixels = touchedPixels(whole, level.size(), rect());
     painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom() < kPixelZoom);
     const QRectF place = coveredPart(whole, level.size(), pixels);

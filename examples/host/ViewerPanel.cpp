@@ -160,7 +160,7 @@ void ViewerPanel::takePicture(const QImage& picture, const QString& problem)
     if (picture.isNull()) {
         showMessage(tr("%1 cannot be shown").arg(Pictures::nameOf(m_path)), problem);
     } else {
-        m_view->setPicture(picture);
+        m_view->setPicture(m_loader->levels());
         updateTexts();
     }
     Q_EMIT pictureChanged();
