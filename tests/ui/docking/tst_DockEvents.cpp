@@ -4,6 +4,7 @@
 #include <ui/docking/DockTitleBar.h>
 #include <ui/docking/TitleBarButton.h>
 
+#include <QAction>
 #include <QLineEdit>
 #include <QMenu>
 #include <QStackedWidget>
@@ -12,7 +13,7 @@
 using namespace NorvaneTest;
 using Norvane::UI::TitleBarButton;
 
-/// What a pane does on events of its own: layout, the mouse, focus.
+/// What a pane does on events of its own: title, layout, the mouse, focus.
 class tst_DockEvents : public QObject
 {
     Q_OBJECT
@@ -27,6 +28,8 @@ private Q_SLOTS:
     void focusFollowsMouse();
     void focusReturnsToWhereItWas();
     void contextMenuPopsUp();
+    void titleFollowsNumberOfPanels();
+    void titlesFollowPanels();
 };
 
 namespace {
@@ -51,11 +54,13 @@ void tst_DockEvents::hiddenTitleAndNarrowPaneHideButtons()
     Dock* const wide = dock->split(Qt::Horizontal, false);
     QVERIFY(desk.show());
     const QString all = visibleButtons(dock);
-    dock->setTitleVisible(false);
+    QAction* const showTabs = dock->menu()->actions().at(8);
+    showTabs->trigger();
     QCOMPARE(visibleButtons(dock), latin1(""));
     QCOMPARE(dock->titleBar()->geometry(), QRect(0, 0, dock->width(), 3));
     QCOMPARE(dock->stack()->geometry(), dock->rect().adjusted(0, 3, 0, 0));
     dock->setTitleVisible(true);
+    QVERIFY(showTabs->isChecked());
     QCOMPARE(visibleButtons(dock), all);
     desk.window->rootSplitter()->setSizes(QList<int>() << 30 << 1000);
     QCOMPARE(visibleButtons(dock), latin1("Panel menu"));
@@ -174,6 +179,44 @@ void tst_DockEvents::contextMenuPopsUp()
     QCOMPARE(dock->menu()->pos(), position);
     QCOMPARE(QApplication::focusWidget(), dock->widget(0));
     dock->menu()->close();
+}
+
+void tst_DockEvents::titleFollowsNumberOfPanels()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("");
+    dock->setTitleVisible(false);
+    desk.fill(dock, "A B");
+    QVERIFY(!dock->titleVisible());
+    dock->insertWidget(-1, desk.panel(latin1("C")));
+    QVERIFY(dock->titleVisible());
+
+    desk.window->setHideSingleTabs(true);
+    dock->removeWidget(dock->widget(0));
+    QVERIFY(dock->titleVisible());
+    dock->closeTab(0);
+    QVERIFY(!dock->titleVisible());
+    desk.fill(dock, "D");
+    QVERIFY(dock->titleVisible());
+    dock->closeTab(0);
+    QVERIFY(!dock->titleVisible());
+    dock->closeTab(0);
+    QVERIFY(dock->titleVisible());
+}
+
+void tst_DockEvents::titlesFollowPanels()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A");
+    desk.window->setWindowIcon(QIcon(latin1(":/ui/qrc/images/HSplit.png")));
+    dock->widget(0)->setWindowTitle(latin1("R&D"));
+    dock->updateTitles();
+    QCOMPARE(dock->tabBar()->tabText(0), latin1("R&&D"));
+    QCOMPARE(dock->accessibleName(), latin1("R&D"));
+    QVERIFY(dock->tabBar()->tabIcon(0).isNull());
+    dock->widget(0)->setWindowIcon(desk.window->windowIcon());
+    dock->updateTitles();
+    QVERIFY(!dock->tabBar()->tabIcon(0).isNull());
 }
 
 QTEST_MAIN(tst_DockEvents)
