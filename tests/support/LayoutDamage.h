@@ -79,23 +79,13 @@ inline Documents bitsFlipped(const QByteArray& good)
     return documents;
 }
 
-inline Documents elementsDoubled(const QByteArray& good)
+inline Documents elementsDoubledOrRemoved(const QByteArray& good)
 {
     Documents documents;
     for (const Span& element : elementsOf(good)) {
         const QByteArray text = textOf(good, element);
-        documents << replaced(good, element, text + text) << replaced(good, element, text.repeated(20));
-    }
-    return documents;
-}
-
-/// Wholly or partly.
-inline Documents elementsRemoved(const QByteArray& good)
-{
-    Documents documents;
-    for (const Span& element : elementsOf(good)) {
-        const QByteArray text = textOf(good, element);
-        documents << replaced(good, element, QByteArray()) << replaced(good, element, text.mid(1))
+        documents << replaced(good, element, text + text) << replaced(good, element, text.repeated(20))
+                  << replaced(good, element, QByteArray()) << replaced(good, element, text.mid(1))
                   << replaced(good, element, text.mid(text.indexOf('>') + 1))
                   << replaced(good, element, text.left(text.lastIndexOf('<')));
     }

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void tabIsReordered();
     void dropIndexDependsOnMiddle();
     void hiddenTitleIsRevealed();
+    void controlClickFloatsTab();
 };
 
 namespace {
@@ -238,6 +239,15 @@ void tst_DockDrag::hiddenTitleIsRevealed()
     QVERIFY(dock->titleVisible());
     press.release(tabCentre(dock, 0));
     QVERIFY(!dock->titleVisible());
+}
+
+void tst_DockDrag::controlClickFloatsTab()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A B");
+    QVERIFY(desk.show());
+    const TabDrag click(dock, 0, Qt::ControlModifier);
+    QCOMPARE(desk.trees(), latin1("V(*B) + V(*A)"));
 }
 
 QTEST_MAIN(tst_DockDrag)

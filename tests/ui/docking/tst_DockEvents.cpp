@@ -24,9 +24,8 @@ private Q_SLOTS:
     void nothingOverlapsInTitle_data();
     void nothingOverlapsInTitle();
     void toolBarLimitsSize();
-    void focusFollowsMouse_data();
-    void focusFollowsMouse();
-    void focusReturnsToWhereItWas();
+    void focusFollowsMouseAndReturns_data();
+    void focusFollowsMouseAndReturns();
     void contextMenuPopsUp();
     void titleFollowsNumberOfPanels();
     void titlesFollowPanels();
@@ -43,6 +42,13 @@ QString visibleButtons(const Dock* dock)
             names.append(button->accessibleName());
     }
     return names.join(latin1("|"));
+}
+
+void moveMouseTo(const Dock* dock)
+{
+    QCursor::setPos(dock->mapToGlobal(dock->rect().center()));
+    WAIT_FOR(dock->underMouse());
+    QCoreApplication::processEvents();
 }
 
 } // namespace
@@ -120,7 +126,7 @@ void tst_DockEvents::toolBarLimitsSize()
     QCOMPARE(dock->maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
 }
 
-void tst_DockEvents::focusFollowsMouse_data()
+void tst_DockEvents::focusFollowsMouseAndReturns_data()
 {
     QTest::addColumn<bool>("editing");
     QTest::addColumn<QString>("panels");
@@ -130,7 +136,7 @@ void tst_DockEvents::focusFollowsMouse_data()
     QTest::newRow("to an empty pane") << false << QString() << latin1("target");
 }
 
-void tst_DockEvents::focusFollowsMouse()
+void tst_DockEvents::focusFollowsMouseAndReturns()
 {
     QFETCH(bool, editing);
     QFETCH(QString, panels);
@@ -142,28 +148,14 @@ void tst_DockEvents::focusFollowsMouse()
     target->setObjectName(latin1("target"));
     QVERIFY(desk.show());
     desk.window->rootSplitter()->setSizes(QList<int>() << 100 << 100);
-    (editing ? &editor : dock->widget(0))->setFocus();
-    QCursor::setPos(target->mapToGlobal(target->rect().center()));
-    WAIT_FOR(target->underMouse());
-    QCoreApplication::processEvents();
+    QWidget* const focused = editing ? &editor : dock->widget(0);
+    moveMouseTo(dock);
+    focused->setFocus();
+    moveMouseTo(target);
     QTEST(QApplication::focusWidget()->objectName(), "focus");
-}
-
-void tst_DockEvents::focusReturnsToWhereItWas()
-{
-    Desk desk;
-    Dock* const dock = desk.pane("A");
-    QLineEdit editor(dock->widget(0));
-    Dock* const other = desk.pane("B");
-    QVERIFY(desk.show());
-    QCursor::setPos(dock->mapToGlobal(dock->rect().center()));
-    WAIT_FOR(dock->underMouse());
-    editor.setFocus();
-    QCursor::setPos(other->mapToGlobal(other->rect().center()));
-    WAIT_FOR(other->underMouse() && !dock->underMouse());
-    other->widget(0)->setFocus();
-    QCursor::setPos(dock->mapToGlobal(dock->rect().center()));
-    WAIT_FOR(QApplication::focusWidget() == &editor);
+    target->setFocus();
+    moveMouseTo(dock);
+    WAIT_FOR(QApplication::focusWidget() == focused);
 }
 
 void tst_DockEvents::contextMenuPopsUp()

@@ -117,8 +117,6 @@ void tst_LayoutReader::windowIsPlaced_data()
     const QRect last = Screens::availableGeometry(Screens::count() - 1);
     const QRect twoThirds(last.left() + last.width() / 6, last.top() + last.height() / 6,
                           2 * last.width() / 3, 2 * last.height() / 3);
-    QTest::newRow("normal") << QByteArray("x='90' y='80' w='400' h='300' screen='0'")
-                            << QRect(90, 80, 400, 300) << false;
     QTest::newRow("screen that is gone, out of sight")
         << QByteArray("x='9000' y='80' w='400' h='300' screen='9'")
         << QRect(last.right() - 399, last.top() + 80, 400, 300) << false;
