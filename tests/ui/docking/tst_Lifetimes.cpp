@@ -22,20 +22,20 @@ public:
     DockWindow* createWindow() override { return new DockWindow(this, nullptr); }
 };
 
-/// A host that shows a dialog while a layout is restored: windows that were closed go meanwhile.
-class AskingHost : public DockMainWindow
+/// A host that shows a dialog while a layout is restored: a window that was closed goes meanwhile.
+class AskingDesk : public Desk
 {
 public:
-    QWidget* createPage(QString& id) override
-    {
-        for (DockWindow* const window : toClose)
-            window->close();
-        toClose.clear();
-        settle();
-        return DockMainWindow::createPage(id);
-    }
+    QPointer<DockWindow> toClose;
 
-    QList<DockWindow*> toClose;
+protected:
+    QWidget* page(QString& id) override
+    {
+        if (toClose)
+            toClose->close();
+        settle();
+        return panel(id);
+    }
 };
 
 } // namespace
@@ -132,16 +132,12 @@ void tst_Lifetimes::paneDiesWhileItsMenuButtonIsHeld()
 
 void tst_Lifetimes::windowsCloseWhileALayoutIsRestored()
 {
-    Panels panels;
-    const QPointer<AskingHost> host(new AskingHost);
-    host->show();
-    const QPointer<DockWindow> window(host->addNewFloatingDock(panels.make(latin1("A"))));
-    const QByteArray layout = savedLayout(host);
-    host->toClose.append(window);
-    QVERIFY(restoreLayout(host, layout));
-    QVERIFY(!window);
-    QCOMPARE(int(host->floatingWindows().size()), 1);
-    delete host;
+    AskingDesk desk;
+    desk.window->show();
+    desk.toClose = desk.window->addNewFloatingDock(desk.panel(latin1("A")));
+    QVERIFY(desk.restore(desk.save()));
+    QVERIFY(!desk.toClose);
+    QCOMPARE(desk.trees(), latin1("V() + V(*A)"));
 }
 
 QTEST_MAIN(tst_Lifetimes)
