@@ -46,6 +46,37 @@ protected:
     void closeEvent(QCloseEvent* event) override { event->setAccepted(!refuses); }
 };
 
+/// Every panel that a host has made. Those that still exist in the end are the host's to delete.
+class Panels : public QList<QPointer<Panel>>
+{
+public:
+    Panels() = default;
+    Panels(const Panels&) = delete;
+    Panels& operator=(const Panels&) = delete;
+    ~Panels()
+    {
+        for (const QPointer<Panel>& panel : *this)
+            delete panel.data();
+    }
+
+    Panel* make(const QString& name, bool deleteOnClose = false)
+    {
+        Panel* const panel = new Panel(name);
+        panel->setAttribute(Qt::WA_DeleteOnClose, deleteOnClose);
+        append(panel);
+        return panel;
+    }
+
+    Panel* find(const QString& name) const
+    {
+        for (const QPointer<Panel>& panel : *this) {
+            if (panel && panel->objectName() == name)
+                return panel;
+        }
+        return nullptr;
+    }
+};
+
 /// The panels of \a dock in order, the current one with a star: "A *B C"; "-" for an empty pane. A tab that
 /// is not that of its panel shows up as "TAB/PANEL", a current tab that is not that of the current panel as
 /// "!".
@@ -77,6 +108,21 @@ inline QString tree(const QSplitter* splitter)
            QLatin1Char(')');
 }
 
+inline QByteArray savedLayout(DockMainWindow* window, QWidget* focusWidget = nullptr)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    window->saveLayout(&buffer, focusWidget);
+    return buffer.data();
+}
+
+inline bool restoreLayout(DockMainWindow* window, QByteArray document, bool fitMainWindowToScreen = false)
+{
+    QBuffer buffer(&document);
+    buffer.open(QIODevice::ReadOnly);
+    return window->restoreLayout(&buffer, fitMainWindowToScreen);
+}
+
 /// A main window with panels, which die with the desk. Restoring a layout makes new panels.
 class Desk
 {
@@ -86,19 +132,9 @@ public:
     {
         window->setGeometry(40, 60, 640, 480);
     }
-    virtual ~Desk()
-    {
-        delete window;
-        for (const QPointer<QWidget>& panel : m_panels)
-            delete panel.data();
-    }
+    virtual ~Desk() { delete window; }
 
-    Panel* panel(const QString& name)
-    {
-        Panel* const result = new Panel(name);
-        m_panels.append(result);
-        return result;
-    }
+    Panel* panel(const QString& name) { return m_panels.make(name); }
 
     /// Adds panels to \a dock; the last one that is new becomes current. \a names are separated by spaces.
     Dock* fill(Dock* dock, const char* names)
@@ -124,17 +160,6 @@ public:
         return Dock::dockForWidget(floating->rootSplitter()->widget(0));
     }
 
-    /// Lets Qt learn what time it is for the window system, as the user's keys and mouse do: a request to
-    /// activate a window is ignored when it looks older than the last one. Something appears under the mouse
-    /// for a moment.
-    static void refreshTime()
-    {
-        QWidget hand(nullptr, Qt::ToolTip);
-        hand.setGeometry(QRect(QCursor::pos() - QPoint(1, 1), QSize(3, 3)));
-        hand.show();
-        waitUntil([&] { return hand.underMouse(); });
-    }
-
     bool show() { return activate(window); }
 
     /// Shows \a widget's window and waits until it has the keyboard. The request is that of a task list,
@@ -156,32 +181,14 @@ public:
         return isActive();
     }
 
-    QByteArray save(QWidget* focusWidget = nullptr)
+    QByteArray save(QWidget* focusWidget = nullptr) const { return savedLayout(window, focusWidget); }
+
+    bool restore(const QByteArray& document, bool fitMainWindowToScreen = false)
     {
-        QByteArray document;
-        QBuffer buffer(&document);
-        buffer.open(QIODevice::WriteOnly);
-        window->saveLayout(&buffer, focusWidget);
-        return document;
+        return restoreLayout(window, document, fitMainWindowToScreen);
     }
 
-    bool restore(QByteArray document, bool fitMainWindowToScreen = false)
-    {
-        QBuffer buffer(&document);
-        buffer.open(QIODevice::ReadOnly);
-        return window->restoreLayout(&buffer, fitMainWindowToScreen);
-    }
-
-    /// Those that are still there.
-    QList<QWidget*> panels() const
-    {
-        QList<QWidget*> living;
-        for (const QPointer<QWidget>& panel : m_panels) {
-            if (panel)
-                living.append(panel);
-        }
-        return living;
-    }
+    const Panels& panels() const { return m_panels; }
 
     /// The main window's panes, then those of each floating window, as tree() has them.
     QString trees() const
@@ -212,7 +219,7 @@ private:
         Desk* const m_desk;
     };
 
-    QList<QPointer<QWidget>> m_panels;
+    Panels m_panels;
 };
 
 } // namespace NorvaneTest

@@ -5,39 +5,8 @@
 
 #include <tests/support/Desk.h>
 
-/// A host of the docking framework for tests: its panels, its main window, its user's mouse.
+/// A host of the docking framework for tests: its main window, its user's mouse.
 namespace NorvaneTest {
-
-/// Every panel that the host has made. Those that still exist in the end are the host's to delete.
-class Panels : public QList<QPointer<Panel>>
-{
-public:
-    Panels() = default;
-    Panels(const Panels&) = delete;
-    Panels& operator=(const Panels&) = delete;
-    ~Panels()
-    {
-        for (const QPointer<Panel>& panel : *this)
-            delete panel.data();
-    }
-
-    Panel* make(const QString& name, bool deleteOnClose = false)
-    {
-        Panel* const panel = new Panel(name);
-        panel->setAttribute(Qt::WA_DeleteOnClose, deleteOnClose);
-        append(panel);
-        return panel;
-    }
-
-    Panel* find(const QString& name) const
-    {
-        for (const QPointer<Panel>& panel : *this) {
-            if (panel && panel->objectName() == name)
-                return panel;
-        }
-        return nullptr;
-    }
-};
 
 /// A main window that finds its host's panels by name; others get placeholders.
 class DockHost : public DockMainWindow

@@ -79,22 +79,13 @@ inline Documents bitsFlipped(const QByteArray& good)
     return documents;
 }
 
-inline Documents elementsDoubled(const QByteArray& good)
+inline Documents elementsDoubledOrRemoved(const QByteArray& good)
 {
     Documents documents;
     for (const Span& element : elementsOf(good)) {
         const QByteArray text = textOf(good, element);
-        documents << replaced(good, element, text + text) << replaced(good, element, text.repeated(20));
-    }
-    return documents;
-}
-
-inline Documents elementsRemoved(const QByteArray& good)
-{
-    Documents documents;
-    for (const Span& element : elementsOf(good)) {
-        const QByteArray text = textOf(good, element);
-        documents << replaced(good, element, QByteArray()) << replaced(good, element, text.mid(1))
+        documents << replaced(good, element, text + text) << replaced(good, element, text.repeated(20))
+                  << replaced(good, element, QByteArray()) << replaced(good, element, text.mid(1))
                   << replaced(good, element, text.mid(text.indexOf('>') + 1))
                   << replaced(good, element, text.left(text.lastIndexOf('<')));
     }
@@ -132,30 +123,6 @@ inline Documents valuesReplaced(const QByteArray& good)
     return documents;
 }
 
-inline Documents attributesRemoved(const QByteArray& good)
-{
-    Documents documents;
-    for (const Span& attribute : attributesOf(good))
-        documents << replaced(good, attribute, QByteArray())
-                  << replaced(good, attribute, textOf(good, attribute).repeated(2))
-                  << replaced(good, attribute, textOf(good, attribute).replace('"', "")) // no quotes
-                  << replaced(good, attribute, textOf(good, attribute).toUpper());
-    return documents;
-}
-
-inline Documents windowStates(const QByteArray& good)
-{
-    const QByteArray geometry = "x=\"-30000\" y=\"30000\" w=\"30000\" h=\"1\"";
-    Documents documents;
-    for (const char* const state :
-         {"maximized=\"1\"", "fullscreen=\"1\"", "maximized=\"1\" fullscreen=\"1\""}) {
-        documents << QByteArray(good).replace("<window ", QByteArray("<window ") + state + ' ')
-                  << LayoutDocuments::layout(QByteArray("<window ") + state + "/><window " + geometry + '/' +
-                                             '>');
-    }
-    return documents;
-}
-
 inline Documents deepNesting(const QByteArray&)
 {
     using namespace LayoutDocuments;
@@ -169,46 +136,6 @@ inline Documents deepNesting(const QByteArray&)
               << layout(nested("<dock>", "</dock>", depth)) << layout(nested("<window>", "</window>", depth))
               << nested("<layout version=\"1.0\">", "</layout>", depth)
               << inWindow(splitter(nested("<split>", "</split>", depth)));
-    return documents;
-}
-
-inline Documents idsDoubled(const QByteArray& good)
-{
-    using namespace LayoutDocuments;
-    Documents documents;
-    documents << QByteArray(good).replace("Curves.1", "Viewer.1")
-              << QByteArray(good).replace("Graph.1", "Viewer.1")
-              << QByteArray(good).replace("Graph.1", "pane1").replace("Viewer.1", "pane1")
-              << inPane(QByteArray("<page id=\"Viewer.1\"/>").repeated(300))
-              << inPane(QByteArray("<page id=\"\"/><page/>").repeated(100))
-              << inWindow(splitter(pane("pane", "Viewer.1").repeated(100)));
-    return documents;
-}
-
-inline Documents otherText(const QByteArray& good)
-{
-    const QByteArray root = "<layout version=\"1.0\">";
-    QByteArray bomb = "<!DOCTYPE layout [<!ENTITY a0 \"aaaaaaaaaa\">";
-    for (int i = 1; i < 12; ++i) {
-        const QByteArray inner = "&a" + QByteArray::number(i - 1) + ';';
-        bomb += "<!ENTITY a" + QByteArray::number(i) + " \"" + inner.repeated(10) + "\">";
-    }
-    bomb += "]>" + root + "<window><splitter><dock id=\"&a11;\"/></splitter></window></layout>";
-    Documents documents;
-    documents << QByteArray() << " \n "
-              << "<"
-              << "x" << QByteArray(5, '\0') << "\xef\xbb\xbf" + good << good + good << good + "\n<!-- end -->"
-              << good + "x" << QByteArray(good).replace("1.0\"?>", "1.1\"?>")
-              << QByteArray(good).replace("<layout version=\"1.0\"", "<layout version=\"1.1\"")
-              << QByteArray(good).replace("UTF-8", "UTF-16") << QByteArray(good).replace("UTF-8", "nonsense")
-              << QByteArray(good).replace("Viewer", "Vie\xff\xfewer")
-              << QByteArray(good).replace("Viewer", "\xc3\xa9")
-              << QByteArray(good).replace("Viewer", QByteArray("a\0b", 3))
-              << QByteArray(good).replace("/>", "/><!-- c -->")
-              << QByteArray(good).replace("<page", "<?php?><page")
-              << QByteArray(good).replace("<dock", "<n:dock")
-              << QByteArray(good).replace("<page", "<![CDATA[</layout>]]><page") << bomb
-              << QByteArray(good).replace(">", ">\r\n\t");
     return documents;
 }
 

@@ -1,32 +1,28 @@
 #pragma once
 
-#include <ui/docking/DockMainWindow.h>
+#include <tests/support/DockLedger.h>
 
-#include <QStringList>
-#include <QWidget>
+#include <algorithm>
 
 namespace NorvaneTest {
 
 /// Remembers what a main window reports of its panes: "+A" added, "-A" removed, "*A" activated; "*" for no
 /// panel.
-class Recorder : public QObject
+class Recorder
 {
-    Q_OBJECT
 public:
-    explicit Recorder(Norvane::UI::DockMainWindow* window)
+    explicit Recorder(DockMainWindow* window)
+        : m_ledger(window)
     {
-        connect(window, SIGNAL(widgetAdded(Norvane::UI::Dock*, QWidget*)), this,
-                SLOT(added(Norvane::UI::Dock*, QWidget*)));
-        connect(window, SIGNAL(widgetRemoved(Norvane::UI::Dock*, QWidget*)), this,
-                SLOT(removed(Norvane::UI::Dock*, QWidget*)));
-        connect(window, SIGNAL(widgetActivated(Norvane::UI::Dock*, QWidget*)), this,
-                SLOT(activated(Norvane::UI::Dock*, QWidget*)));
+        m_ledger.whenReported = [this](DockLedger::Report report, Dock*, QWidget* panel) {
+            m_reports.append(QLatin1Char("+-*"[report]) + (panel ? panel->objectName() : QString()));
+        };
     }
 
     /// What was reported since the last call.
     QString take()
     {
-        QString all = m_reports.join(QString::fromLatin1(" "));
+        const QString all = m_reports.join(latin1(" "));
         m_reports.clear();
         return all;
     }
@@ -34,26 +30,13 @@ public:
     /// The same without activations.
     QString takeMoves()
     {
-        QStringList moves;
-        for (const QString& report : m_reports) {
-            if (!report.startsWith(QLatin1Char('*')))
-                moves.append(report);
-        }
-        m_reports = moves;
+        const auto isActivation = [](const QString& report) { return report.startsWith(QLatin1Char('*')); };
+        m_reports.erase(std::remove_if(m_reports.begin(), m_reports.end(), isActivation), m_reports.end());
         return take();
     }
 
-private Q_SLOTS:
-    void added(Norvane::UI::Dock*, QWidget* panel) { note('+', panel); }
-    void removed(Norvane::UI::Dock*, QWidget* panel) { note('-', panel); }
-    void activated(Norvane::UI::Dock*, QWidget* panel) { note('*', panel); }
-
 private:
-    void note(char mark, const QWidget* panel)
-    {
-        m_reports.append(QLatin1Char(mark) + (panel ? panel->objectName() : QString()));
-    }
-
+    DockLedger m_ledger;
     QStringList m_reports;
 };
 

@@ -8,7 +8,7 @@
 using namespace NorvaneTest;
 using Norvane::UI::HoverWidget;
 
-/// Dragging panels out of their pane and dropping them.
+/// Dragging tabs within their bar, panels out of their pane and into others.
 class tst_DockDrag : public QObject
 {
     Q_OBJECT
@@ -20,9 +20,19 @@ private Q_SLOTS:
     void panelIsDropped();
     void panelDroppedNowhereFloatsAtMouse();
     void overlayFollowsMouse();
+    void tabIsReordered_data();
+    void tabIsReordered();
+    void dropIndexDependsOnMiddle();
+    void hiddenTitleIsRevealed();
+    void controlClickFloatsTab();
 };
 
 namespace {
+
+QPoint tabCentre(const Dock* dock, int tab)
+{
+    return dock->tabBar()->mapToGlobal(dock->tabBar()->tabRect(tab).center());
+}
 
 HoverWidget* overlay()
 {
@@ -111,6 +121,7 @@ void tst_DockDrag::panelIsDropped()
     drag.tearOff();
     QCOMPARE(recorder.takeMoves(), latin1("-B"));
     drag.moveTo(stack->mapToGlobal(end));
+    QCOMPARE(overlay() != nullptr, split);
     drag.release(stack->mapToGlobal(end), control ? Qt::ControlModifier : Qt::NoModifier);
     QTEST(desk.trees(), "trees");
     QCOMPARE(recorder.takeMoves(), latin1("+B"));
@@ -142,12 +153,6 @@ void tst_DockDrag::overlayFollowsMouse()
     Dock* const target = desk.pane("C");
     QVERIFY(desk.show());
     const QPoint over = target->stack()->mapToGlobal(target->stack()->rect().center());
-    TabDrag plain(source, 0);
-    plain.tearOff();
-    plain.moveTo(over);
-    QVERIFY(!overlay());
-    plain.pressEscape();
-
     desk.window->setSplitPanelsByDragging(true);
     TabDrag drag(source, 0);
     QVERIFY(!overlay());
@@ -163,6 +168,86 @@ void tst_DockDrag::overlayFollowsMouse()
     QVERIFY(!overlay());
     drag.moveTo(over);
     drag.release(over);
+}
+
+void tst_DockDrag::tabIsReordered_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<int>("widths"); // of a tab; all are as wide as each other
+    QTest::addColumn<int>("pixels"); // and some more
+    QTest::addColumn<QString>("result");
+    const int start = 2 * QApplication::startDragDistance();
+    QTest::newRow("less than the start distance") << 0 << 0 << start - 1 << latin1("*10 20 30");
+    QTest::newRow("not past the neighbour") << 0 << 1 << -1 << latin1("*10 20 30");
+    QTest::newRow("past the neighbour") << 0 << 1 << 0 << latin1("20 *10 30");
+    QTest::newRow("one place a move") << 0 << 2 << 5 << latin1("20 *10 30");
+    QTest::newRow("to the left") << 2 << -1 << 0 << latin1("10 *30 20");
+    QTest::newRow("not far enough to the left") << 2 << -1 << 1 << latin1("10 20 *30");
+    QTest::newRow("last to the right") << 2 << 1 << 5 << latin1("10 20 *30");
+    QTest::newRow("first to the left") << 0 << 0 << -start << latin1("*10 20 30");
+}
+
+void tst_DockDrag::tabIsReordered()
+{
+    QFETCH(int, tab);
+    QFETCH(int, widths);
+    QFETCH(int, pixels);
+    Desk desk;
+    desk.pane("other")->setFocus();
+    Dock* const dock = desk.pane("10 20 30");
+    QVERIFY(desk.show());
+    const QPoint end = tabCentre(dock, tab) + QPoint(widths * dock->tabBar()->tabRect(1).width() + pixels, 0);
+    TabDrag drag(dock, tab);
+    QCOMPARE(QApplication::focusWidget(), dock->widget(tab));
+    drag.moveTo(end);
+    drag.release(end);
+    QTEST(tabs(dock), "result");
+}
+
+void tst_DockDrag::dropIndexDependsOnMiddle()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A B");
+    QVERIFY(desk.show());
+    const QPoint centre = dock->tabBar()->tabRect(1).center();
+    QCOMPARE(dock->tabBar()->dropIndexAt(centre), 1);
+    QCOMPARE(dock->tabBar()->dropIndexAt(centre + QPoint(1, 0)), 2);
+    QCOMPARE(dock->tabBar()->dropIndexAt(QPoint(5000, 5)), -1);
+    dock->insertWidget(centre, desk.panel(latin1("C")));
+    QCOMPARE(tabs(dock), latin1("A C *B"));
+    dock->insertWidget(QPoint(5000, 5), desk.panel(latin1("D")));
+    QCOMPARE(tabs(dock), latin1("A C *B D"));
+}
+
+void tst_DockDrag::hiddenTitleIsRevealed()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A");
+    QVERIFY(desk.show());
+    dock->setTitleVisible(false);
+    const QPoint strip = dock->mapToGlobal(QPoint(300, 1));
+    QCursor::setPos(strip);
+    WAIT_FOR(dock->titleVisible());
+    QCursor::setPos(5, 5);
+    WAIT_FOR(!dock->titleVisible());
+
+    QCursor::setPos(strip);
+    WAIT_FOR(dock->titleVisible());
+    TabDrag press(dock, 0);
+    QCursor::setPos(5, 5);
+    WAIT_FOR(!dock->titleBar()->underMouse());
+    QVERIFY(dock->titleVisible());
+    press.release(tabCentre(dock, 0));
+    QVERIFY(!dock->titleVisible());
+}
+
+void tst_DockDrag::controlClickFloatsTab()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A B");
+    QVERIFY(desk.show());
+    const TabDrag click(dock, 0, Qt::ControlModifier);
+    QCOMPARE(desk.trees(), latin1("V(*B) + V(*A)"));
 }
 
 QTEST_MAIN(tst_DockDrag)

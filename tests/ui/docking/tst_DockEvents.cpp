@@ -4,6 +4,7 @@
 #include <ui/docking/DockTitleBar.h>
 #include <ui/docking/TitleBarButton.h>
 
+#include <QAction>
 #include <QLineEdit>
 #include <QMenu>
 #include <QStackedWidget>
@@ -12,7 +13,7 @@
 using namespace NorvaneTest;
 using Norvane::UI::TitleBarButton;
 
-/// What a pane does on events of its own: layout, the mouse, focus.
+/// What a pane does on events of its own: title, layout, the mouse, focus.
 class tst_DockEvents : public QObject
 {
     Q_OBJECT
@@ -23,10 +24,11 @@ private Q_SLOTS:
     void nothingOverlapsInTitle_data();
     void nothingOverlapsInTitle();
     void toolBarLimitsSize();
-    void focusFollowsMouse_data();
-    void focusFollowsMouse();
-    void focusReturnsToWhereItWas();
+    void focusFollowsMouseAndReturns_data();
+    void focusFollowsMouseAndReturns();
     void contextMenuPopsUp();
+    void titleFollowsNumberOfPanels();
+    void titlesFollowPanels();
 };
 
 namespace {
@@ -42,6 +44,13 @@ QString visibleButtons(const Dock* dock)
     return names.join(latin1("|"));
 }
 
+void moveMouseTo(const Dock* dock)
+{
+    QCursor::setPos(dock->mapToGlobal(dock->rect().center()));
+    WAIT_FOR(dock->underMouse());
+    QCoreApplication::processEvents();
+}
+
 } // namespace
 
 void tst_DockEvents::hiddenTitleAndNarrowPaneHideButtons()
@@ -51,11 +60,13 @@ void tst_DockEvents::hiddenTitleAndNarrowPaneHideButtons()
     Dock* const wide = dock->split(Qt::Horizontal, false);
     QVERIFY(desk.show());
     const QString all = visibleButtons(dock);
-    dock->setTitleVisible(false);
+    QAction* const showTabs = dock->menu()->actions().at(8);
+    showTabs->trigger();
     QCOMPARE(visibleButtons(dock), latin1(""));
     QCOMPARE(dock->titleBar()->geometry(), QRect(0, 0, dock->width(), 3));
     QCOMPARE(dock->stack()->geometry(), dock->rect().adjusted(0, 3, 0, 0));
     dock->setTitleVisible(true);
+    QVERIFY(showTabs->isChecked());
     QCOMPARE(visibleButtons(dock), all);
     desk.window->rootSplitter()->setSizes(QList<int>() << 30 << 1000);
     QCOMPARE(visibleButtons(dock), latin1("Panel menu"));
@@ -115,7 +126,7 @@ void tst_DockEvents::toolBarLimitsSize()
     QCOMPARE(dock->maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
 }
 
-void tst_DockEvents::focusFollowsMouse_data()
+void tst_DockEvents::focusFollowsMouseAndReturns_data()
 {
     QTest::addColumn<bool>("editing");
     QTest::addColumn<QString>("panels");
@@ -125,7 +136,7 @@ void tst_DockEvents::focusFollowsMouse_data()
     QTest::newRow("to an empty pane") << false << QString() << latin1("target");
 }
 
-void tst_DockEvents::focusFollowsMouse()
+void tst_DockEvents::focusFollowsMouseAndReturns()
 {
     QFETCH(bool, editing);
     QFETCH(QString, panels);
@@ -137,28 +148,14 @@ void tst_DockEvents::focusFollowsMouse()
     target->setObjectName(latin1("target"));
     QVERIFY(desk.show());
     desk.window->rootSplitter()->setSizes(QList<int>() << 100 << 100);
-    (editing ? &editor : dock->widget(0))->setFocus();
-    QCursor::setPos(target->mapToGlobal(target->rect().center()));
-    WAIT_FOR(target->underMouse());
-    QCoreApplication::processEvents();
+    QWidget* const focused = editing ? &editor : dock->widget(0);
+    moveMouseTo(dock);
+    focused->setFocus();
+    moveMouseTo(target);
     QTEST(QApplication::focusWidget()->objectName(), "focus");
-}
-
-void tst_DockEvents::focusReturnsToWhereItWas()
-{
-    Desk desk;
-    Dock* const dock = desk.pane("A");
-    QLineEdit editor(dock->widget(0));
-    Dock* const other = desk.pane("B");
-    QVERIFY(desk.show());
-    QCursor::setPos(dock->mapToGlobal(dock->rect().center()));
-    WAIT_FOR(dock->underMouse());
-    editor.setFocus();
-    QCursor::setPos(other->mapToGlobal(other->rect().center()));
-    WAIT_FOR(other->underMouse() && !dock->underMouse());
-    other->widget(0)->setFocus();
-    QCursor::setPos(dock->mapToGlobal(dock->rect().center()));
-    WAIT_FOR(QApplication::focusWidget() == &editor);
+    target->setFocus();
+    moveMouseTo(dock);
+    WAIT_FOR(QApplication::focusWidget() == focused);
 }
 
 void tst_DockEvents::contextMenuPopsUp()
@@ -174,6 +171,44 @@ void tst_DockEvents::contextMenuPopsUp()
     QCOMPARE(dock->menu()->pos(), position);
     QCOMPARE(QApplication::focusWidget(), dock->widget(0));
     dock->menu()->close();
+}
+
+void tst_DockEvents::titleFollowsNumberOfPanels()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("");
+    dock->setTitleVisible(false);
+    desk.fill(dock, "A B");
+    QVERIFY(!dock->titleVisible());
+    dock->insertWidget(-1, desk.panel(latin1("C")));
+    QVERIFY(dock->titleVisible());
+
+    desk.window->setHideSingleTabs(true);
+    dock->removeWidget(dock->widget(0));
+    QVERIFY(dock->titleVisible());
+    dock->closeTab(0);
+    QVERIFY(!dock->titleVisible());
+    desk.fill(dock, "D");
+    QVERIFY(dock->titleVisible());
+    dock->closeTab(0);
+    QVERIFY(!dock->titleVisible());
+    dock->closeTab(0);
+    QVERIFY(dock->titleVisible());
+}
+
+void tst_DockEvents::titlesFollowPanels()
+{
+    Desk desk;
+    Dock* const dock = desk.pane("A");
+    desk.window->setWindowIcon(QIcon(latin1(":/ui/qrc/images/HSplit.png")));
+    dock->widget(0)->setWindowTitle(latin1("R&D"));
+    dock->updateTitles();
+    QCOMPARE(dock->tabBar()->tabText(0), latin1("R&&D"));
+    QCOMPARE(dock->accessibleName(), latin1("R&D"));
+    QVERIFY(dock->tabBar()->tabIcon(0).isNull());
+    dock->widget(0)->setWindowIcon(desk.window->windowIcon());
+    dock->updateTitles();
+    QVERIFY(!dock->tabBar()->tabIcon(0).isNull());
 }
 
 QTEST_MAIN(tst_DockEvents)

@@ -2,103 +2,58 @@
 
 #include <tests/support/Desk.h>
 #include <tests/support/Recorder.h>
-
-#include <QAction>
+#include <ui/docking/DockPlaceHolder.h>
 
 using namespace NorvaneTest;
+using Norvane::UI::DockPlaceHolder;
 
 class tst_DockMainWindow : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { QCursor::setPos(5, 5); }
-    void focusMovesThroughPanes();
-    void focusMovesThroughTabs();
-    void focusOutsidePanesStays();
+    void focusMovesThroughPanesAndTabs();
     void focusActivatesCurrentTab();
-    void floatingWindowIsRegistered();
+    void floatingWindowFitsPanel();
+    void paneIsFoundByName_data();
+    void paneIsFoundByName();
+    void panesAreFoundByPrefix();
+    void placeHoldersInFloatingWindowsCountTwice();
+    void paneIsFoundByPosition();
 };
 
-namespace {
-
-/// The panels that get the focus one after the other, from that of \a start on, when \a slot is called \a
-/// times.
-QString visited(Desk& desk, Dock* start, const char* slot, int times)
-{
-    QStringList names;
-    desk.show();
-    start->setCurrentTab(0);
-    start->setFocus();
-    for (int i = 0; i < times; ++i) {
-        const QWidget* const before = QApplication::focusWidget();
-        Desk::refreshTime();
-        QMetaObject::invokeMethod(desk.window, slot);
-        waitUntil([&] { return QApplication::focusWidget() && QApplication::focusWidget() != before; });
-        const QWidget* const panel = desk.window->activeTab();
-        names.append(panel ? panel->objectName() : latin1("nothing"));
-    }
-    return names.join(latin1(" "));
-}
-
-/// Whether visited() can be \a names. A busy window manager may lose a request to activate a window, though
-/// not every time.
-bool visits(Desk& desk, Dock* start, const char* slot, const char* names)
-{
-    const int times = int(QString(latin1(names)).count(QLatin1Char(' '))) + 1;
-    QString last;
-    for (int attempt = 0; attempt < 3 && last != latin1(names); ++attempt)
-        last = visited(desk, start, slot, times);
-    if (last != latin1(names))
-        qWarning("visited: %s", qPrintable(last));
-    return last == latin1(names);
-}
-
-} // namespace
-
-void tst_DockMainWindow::focusMovesThroughPanes()
-{
-    Desk desk;
-    Dock* const first = desk.pane("A");
-    desk.pane("");
-    desk.fill(first->split(Qt::Horizontal, false), "B");
-    desk.floatingPane("C");
-    QVERIFY(visits(desk, first, "nextDock", "B C A"));
-    QVERIFY(visits(desk, first, "prevDock", "C B A"));
-    desk.window->docks()[1]->closeActiveTab();
-    desk.window->docks()[3]->closeActiveTab();
-    desk.show();
-    first->setFocus();
-    desk.window->nextDock();
-    QCOMPARE(desk.window->activeDock(), first);
-}
-
-void tst_DockMainWindow::focusMovesThroughTabs()
+void tst_DockMainWindow::focusMovesThroughPanesAndTabs()
 {
     Desk desk;
     Dock* const first = desk.pane("A B");
     desk.pane("");
-    desk.pane("C");
-    Dock* const floating = desk.fill(desk.floatingPane("D"), "E");
-    QVERIFY(visits(desk, first, "nextTab", "B C D E A"));
-    floating->setCurrentTab(0);
-    QVERIFY(visits(desk, first, "prevTab", "E D C B A"));
-}
+    Dock* const second = desk.fill(first->split(Qt::Horizontal, false), "C");
+    QVERIFY(desk.show());
+    first->setFocus();
+    QStringList visited;
+    for (const char* const slot : {"nextDock", "nextDock", "prevDock", "prevDock", "nextTab", "nextTab",
+                                   "nextTab", "prevTab", "prevTab", "prevTab"}) {
+        QVERIFY(QMetaObject::invokeMethod(desk.window, slot));
+        visited.append(desk.window->activeTab()->objectName());
+    }
+    QCOMPARE(visited.join(latin1(" ")), latin1("C B C B C A B A C B"));
 
-void tst_DockMainWindow::focusOutsidePanesStays()
-{
-    Desk desk;
-    desk.pane("A B");
+    // Another window gets the keyboard later than its pane the right tab.
+    const Dock* const floating = desk.fill(desk.floatingPane("D"), "E");
+    QVERIFY(desk.show());
+    second->setFocus();
+    desk.window->nextTab();
+    QCOMPARE(tabs(floating), latin1("*D E"));
+
     QWidget outside(desk.window);
     outside.setFocusPolicy(Qt::StrongFocus);
     QVERIFY(desk.show());
     outside.show();
     outside.setFocus();
-    const char* const slots_[] = {"nextDock", "prevDock", "nextTab", "prevTab"};
-    for (const char* const slot : slots_) {
+    for (const char* const slot : {"nextDock", "prevDock", "nextTab", "prevTab"}) {
         QVERIFY(QMetaObject::invokeMethod(desk.window, slot));
         QCOMPARE(QApplication::focusWidget(), &outside);
     }
-    QCOMPARE(desk.trees(), latin1("V(A *B)"));
     QVERIFY(!desk.window->activeDock() && !desk.window->activeTab());
 }
 
@@ -126,20 +81,113 @@ void tst_DockMainWindow::focusActivatesCurrentTab()
     QCOMPARE(recorder.take(), latin1(""));
 }
 
-void tst_DockMainWindow::floatingWindowIsRegistered()
+void tst_DockMainWindow::floatingWindowFitsPanel()
 {
     Desk desk;
-    DockWindow* const empty = desk.window->addNewFloatingDock(nullptr);
-    QVERIFY(empty->snapEnabled() && !empty->isVisible());
     DockWindow* const shown = desk.window->addNewFloatingDock(desk.panel(latin1("A")));
     QVERIFY(shown->snapEnabled() && shown->isVisible());
     QCOMPARE(shown->size(), desk.window->docks().first()->sizeHint().expandedTo(shown->minimumSizeHint()));
-    QCOMPARE(desk.window->floatingWindows(), QList<DockWindow*>() << empty << shown);
-    delete empty;
-    QCOMPARE(desk.window->floatingWindows(), QList<DockWindow*>() << shown);
-
+    QVERIFY(!desk.window->addNewFloatingDock(nullptr)->isVisible());
     QWidget withoutSizeHint;
     QVERIFY(!desk.window->addNewFloatingDock(&withoutSizeHint)->size().isEmpty());
+}
+
+void tst_DockMainWindow::paneIsFoundByName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("exact");
+    QTest::addColumn<bool>("ids");
+    QTest::addColumn<QString>("found");
+    const QString none = latin1("no pane");
+    const QString main = latin1("*Viewer.1");
+    const QString other = latin1("*Notes.2");
+    const QString floating = latin1("*Curves.1");
+    QTest::newRow("panel") << latin1("Viewer.1") << true << false << main;
+    QTest::newRow("widget inside a panel") << latin1("button") << true << false << other;
+    QTest::newRow("the pane itself") << latin1("pane2") << true << false << other;
+    QTest::newRow("widget in no pane") << latin1("Curves.9") << false << true << none;
+    QTest::newRow("pane id, ids not asked") << latin1("Graph.1") << true << false << none;
+    QTest::newRow("pane id") << latin1("Graph.1") << true << true << other;
+    QTest::newRow("floating pane id") << latin1("Scopes.3") << true << true << floating;
+    QTest::newRow("pane id of that kind") << latin1("Graph.7") << false << true << other;
+    QTest::newRow("pane id of that kind, exact") << latin1("Graph.7") << true << true << none;
+    QTest::newRow("pane id, only its beginning") << latin1("Graph.") << true << true << none;
+    QTest::newRow("panel of that kind") << latin1("Viewer.9") << false << false << main;
+    QTest::newRow("ids come before panels") << latin1("Curves.7") << false << true << other;
+    QTest::newRow("floating panel of that kind") << latin1("Curves.7") << false << false << floating;
+    QTest::newRow("last dot counts") << latin1("Viewer.1.1") << false << true << none;
+    QTest::newRow("empty") << latin1("") << false << true << none;
+}
+
+void tst_DockMainWindow::paneIsFoundByName()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, exact);
+    QFETCH(bool, ids);
+    Desk desk;
+    desk.pane("Viewer.1");
+    desk.window->docks().first()->paneIDs() << latin1("graph.1");
+    Dock* const other = desk.pane("Notes.2");
+    other->setObjectName(latin1("pane2"));
+    other->paneIDs() << latin1("Graph.1") << latin1("Curves.4");
+    QWidget button(other->widget(0));
+    button.setObjectName(latin1("button"));
+    desk.floatingPane("Curves.1")->paneIDs() << latin1("Scopes.3");
+    QWidget outside(desk.window);
+    outside.setObjectName(latin1("Curves.9"));
+    QTEST(tabs(desk.window->findDockByName(name, exact, ids)), "found");
+}
+
+void tst_DockMainWindow::panesAreFoundByPrefix()
+{
+    Desk desk;
+    Dock* const first = desk.pane("Viewer.1 Graph.1 Viewer.2");
+    Dock* const second = desk.pane("Viewer.3 viewer.4");
+    Dock* const floating = desk.floatingPane("Viewer.5");
+    QWidget outside(desk.window);
+    outside.setObjectName(latin1("Viewer.6"));
+    const QList<Dock*> found = desk.window->getDocksWithPrefix(latin1("Viewer."));
+    QCOMPARE(int(found.size()), 4);
+    QCOMPARE(int(found.count(first)), 2);
+    QVERIFY(found.contains(second) && found.contains(floating));
+    QVERIFY(desk.window->getDocksWithPrefix(latin1("Viewer.12")).isEmpty());
+}
+
+void tst_DockMainWindow::placeHoldersInFloatingWindowsCountTwice()
+{
+    Desk desk;
+    DockPlaceHolder* const docked = new DockPlaceHolder;
+    DockPlaceHolder* const floating = new DockPlaceHolder;
+    desk.pane("A")->addWidget(docked, false, false);
+    desk.floatingPane("B")->addWidget(floating, false, false);
+    QCOMPARE(desk.window->placeHolders(), QList<DockPlaceHolder*>() << docked << floating << floating);
+    delete docked;
+    delete floating;
+}
+
+void tst_DockMainWindow::paneIsFoundByPosition()
+{
+    Desk desk;
+    Dock* const docked = desk.pane("A");
+    Dock* const floating = desk.floatingPane("B");
+    QVERIFY(desk.show());
+    DockWindow* const window = desk.window->floatingWindows().first();
+    const QPoint middle = docked->mapToGlobal(docked->rect().center());
+    window->resize(100, 100);
+    window->move(middle - QPoint(50, 50));
+    WAIT_FOR(desk.window->findDockAt(middle) == floating);
+    QCOMPARE(desk.window->findDockAt(docked->mapToGlobal(QPoint(10, 40))), docked);
+    window->hide();
+    QCOMPARE(desk.window->findDockAt(middle), docked);
+    QVERIFY(!desk.window->findDockAt(QPoint(-500, -500)));
+
+    QVERIFY(desk.show());
+    QCursor::setPos(middle);
+    QCOMPARE(desk.window->focusWidgetUnderCursor(), docked);
+    QCOMPARE(QApplication::focusWidget(), docked->widget(0));
+    QCursor::setPos(5, 5);
+    QVERIFY(!desk.window->focusWidgetUnderCursor());
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(desk.window));
 }
 
 QTEST_MAIN(tst_DockMainWindow)

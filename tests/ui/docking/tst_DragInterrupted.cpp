@@ -27,55 +27,29 @@ struct Interruption {
 };
 
 const Interruption kInterruptions[] = {
-    {"nothing", [](DockScene&, QWidget*) {}},
     {"panel deleted", [](DockScene&, QWidget* panel) { delete panel; }, Interruption::kDeletesPanel},
     {"panel deleted later", [](DockScene&, QWidget* panel) { panel->deleteLater(); },
      Interruption::kDeletesPanel},
-    {"panel closed",
-     [](DockScene& scene, QWidget* panel) {
-         if (scene.floating->stack()->indexOf(panel) >= 0)
-             scene.floating->closeActiveTab();
-         else
-             panel->close();
-     }},
     {"panel taken home", [](DockScene& scene, QWidget* panel) { panel->setParent(&scene.home); }},
     {"panel put into another pane",
      [](DockScene& scene, QWidget* panel) { scene.left->addWidget(panel, true, false); }},
-    {"panel put into its pane",
-     [](DockScene& scene, QWidget* panel) { scene.floating->addWidget(panel, true, false); }},
-    {"all tabs closed",
-     [](DockScene& scene, QWidget*) {
-         while (scene.floating->count() > 0)
-             scene.floating->closeTab(0);
-     }},
     {"source closed", [](DockScene& scene, QWidget*) { scene.floating->close(); }, Interruption::kEndsDrag},
     {"source deleted", [](DockScene& scene, QWidget*) { delete scene.floating; }, Interruption::kEndsDrag},
     {"source hidden", [](DockScene& scene, QWidget*) { scene.floating->hide(); }, Interruption::kEndsDrag},
-    {"source moved", [](DockScene& scene, QWidget*) { scene.mainWindow->addWidget(scene.floating); }},
     {"source floated", [](DockScene& scene, QWidget*) { scene.floating->floatDock(); }},
-    {"source split", [](DockScene& scene, QWidget*) { scene.floating->split(Qt::Horizontal, true); }},
     {"source's title hidden", [](DockScene& scene, QWidget*) { scene.floating->setTitleVisible(false); },
      Interruption::kEndsDrag},
     {"source's window closed", [](DockScene& scene, QWidget*) { scene.floatingWindow->close(); },
      Interruption::kEndsDrag},
     {"source's window deleted", [](DockScene& scene, QWidget*) { delete scene.floatingWindow; },
      Interruption::kEndsDrag},
-    {"target closed", [](DockScene& scene, QWidget*) { scene.right->close(); }},
     {"target deleted", [](DockScene& scene, QWidget*) { delete scene.right; }},
-    {"target moved",
-     [](DockScene& scene, QWidget*) {
-         scene.mainWindow->createWindow()->addWidget(scene.right);
-         delete scene.right->window();
-     }},
     {"overlay switched off",
-     [](DockScene& scene, QWidget*) { scene.mainWindow->setSplitPanelsByDragging(false); }},
-    {"main window closed", [](DockScene& scene, QWidget*) { scene.mainWindow->close(); },
+     [](DockScene& scene, QWidget*) { scene.window->setSplitPanelsByDragging(false); }},
+    {"main window closed", [](DockScene& scene, QWidget*) { scene.window->close(); },
      Interruption::kEndsDrag},
-    {"main window deleted", [](DockScene& scene, QWidget*) { delete scene.mainWindow; },
-     Interruption::kEndsDrag},
+    {"main window deleted", [](DockScene& scene, QWidget*) { delete scene.window; }, Interruption::kEndsDrag},
     {"first layout restored", [](DockScene& scene, QWidget*) { scene.restore(scene.firstLayout); },
-     Interruption::kEndsDrag},
-    {"layout restored", [](DockScene& scene, QWidget*) { scene.restore(scene.save()); },
      Interruption::kEndsDrag},
 };
 
@@ -138,8 +112,8 @@ void tst_DragInterrupted::hostInterferes()
         const Continuation continuation = Continuation(i);
         const bool deleteOnClose = (i + stage) % 2;
         DockScene scene(deleteOnClose);
-        scene.mainWindow->setSplitPanelsByDragging(true);
-        const QPointer<QWidget> panel(scene.panel("F"));
+        scene.window->setSplitPanelsByDragging(true);
+        const QPointer<QWidget> panel(scene.find("F"));
         const QPoint target = DockScene::middle(scene.right);
 
         TabDrag drag(scene.floating, 1);
@@ -167,15 +141,13 @@ void tst_DragInterrupted::hostInterferes()
                 .arg(latin1(kContinuations[continuation]), latin1(deleteOnClose ? "die" : "live"));
         QVERIFY2(problems.isEmpty(), qPrintable(place + problems));
         QVERIFY2(panel || deletesPanel || deleteOnClose, qPrintable(place + latin1("the panel is lost")));
-        QVERIFY2(!panel || panel->windowOpacity() == 1.0,
-                 qPrintable(place + latin1("the panel is translucent")));
     }
 }
 
 void tst_DragInterrupted::revealedTitleDoesNotHoldItsTabBack()
 {
     DockScene scene;
-    scene.mainWindow->setHideSingleTabs(true);
+    scene.window->setHideSingleTabs(true);
     scene.floating->closeTab(0);
     QVERIFY(!scene.floating->titleVisible());
     QWidget* const titleBar = scene.floating->titleBar();
@@ -201,7 +173,7 @@ void tst_DragInterrupted::revealedTitleDoesNotHoldItsTabBack()
 void tst_DragInterrupted::sideIsForgottenWithItsDrag()
 {
     DockScene scene;
-    scene.mainWindow->setSplitPanelsByDragging(true);
+    scene.window->setSplitPanelsByDragging(true);
     const QPoint border = scene.right->stack()->mapToGlobal(QPoint(3, 100));
     TabDrag first(scene.left, 0);
     first.moveTo(border);
@@ -213,15 +185,15 @@ void tst_DragInterrupted::sideIsForgottenWithItsDrag()
     second.moveTo(border);
     second.release(DockScene::middle(scene.right));
     QCOMPARE(tabs(scene.right), latin1("D *A"));
-    QCOMPARE(int(scene.mainWindow->docks().size()), 3);
+    QCOMPARE(int(scene.window->docks().size()), 3);
 }
 
 void tst_DragInterrupted::paneOutsideAllSplittersTakesADrop()
 {
     DockScene scene;
-    scene.mainWindow->setSplitPanelsByDragging(true);
-    const QPointer<Dock> statusPane(new Dock(scene.mainWindow));
-    statusPane->setParent(scene.mainWindow);
+    scene.window->setSplitPanelsByDragging(true);
+    const QPointer<Dock> statusPane(new Dock(scene.window));
+    statusPane->setParent(scene.window);
     statusPane->setGeometry(100, 100, 200, 150);
     statusPane->show();
     const QPoint border = statusPane->stack()->mapToGlobal(QPoint(3, 60));

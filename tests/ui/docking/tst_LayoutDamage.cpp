@@ -17,20 +17,6 @@ namespace {
 
 typedef LayoutDamage::Documents (*Damage)(const QByteArray& good);
 
-/// Closes message boxes that nobody sees: a window manager would still be at work on them when they are gone.
-class UnseenBoxCloser : public MessageBoxCloser
-{
-public:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        QMessageBox* const box =
-            event->type() == QEvent::Polish ? qobject_cast<QMessageBox*>(watched) : nullptr;
-        if (box)
-            box->setAttribute(Qt::WA_DontShowOnScreen);
-        return MessageBoxCloser::eventFilter(watched, event);
-    }
-};
-
 /// A desk with three panels that layouts speak of.
 class GoodDesk : public Desk
 {
@@ -55,11 +41,8 @@ public:
 protected:
     QWidget* page(QString& id) override
     {
-        for (QWidget* const known : panels()) {
-            if (known->objectName() == id)
-                return known;
-        }
-        return window->DockMainWindow::createPage(id);
+        Panel* const known = panels().find(id);
+        return known ? known : window->DockMainWindow::createPage(id);
     }
 };
 
@@ -82,15 +65,10 @@ void tst_LayoutDamage::goodLayoutComesBack_data()
     QTest::addColumn<Damage>("damage");
     QTest::newRow("cut off anywhere") << Damage(cutAnywhere);
     QTest::newRow("bits flipped") << Damage(bitsFlipped);
-    QTest::newRow("elements doubled") << Damage(elementsDoubled);
-    QTest::newRow("elements removed") << Damage(elementsRemoved);
+    QTest::newRow("elements doubled or removed") << Damage(elementsDoubledOrRemoved);
     QTest::newRow("elements moved") << Damage(elementsMoved);
     QTest::newRow("values replaced") << Damage(valuesReplaced);
-    QTest::newRow("attributes removed") << Damage(attributesRemoved);
-    QTest::newRow("window states") << Damage(windowStates);
     QTest::newRow("nested 20,000 deep") << Damage(deepNesting);
-    QTest::newRow("ids doubled") << Damage(idsDoubled);
-    QTest::newRow("other text") << Damage(otherText);
 }
 
 void tst_LayoutDamage::goodLayoutComesBack()
@@ -110,7 +88,7 @@ void tst_LayoutDamage::goodLayoutComesBack()
     const LayoutDamage::Documents documents = damage(compact);
     for (int i = 0; i < documents.size(); ++i) {
         const QByteArray place = QByteArray::number(i) + ": " + documents[i].left(2000);
-        const UnseenBoxCloser closer;
+        const MessageBoxCloser closer;
         const bool restored = desk->restore(documents[i]);
         QVERIFY2(restored == inspect(documents[i]).isRestorable(), place.constData());
         QVERIFY2(closer.count() == (restored ? 0 : 1), place.constData());

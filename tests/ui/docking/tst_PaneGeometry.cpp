@@ -4,18 +4,14 @@
 
 using namespace Norvane::UI;
 
-Q_DECLARE_METATYPE(Norvane::UI::PaneMetrics)
-
 class tst_PaneGeometry : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void paneIsLaidOut_data();
     void paneIsLaidOut();
     void buttonsFitIntoWidePanes();
     void dropSide_data();
     void dropSide();
-    void dropAreaIsHalf_data();
     void dropAreaIsHalf();
 };
 
@@ -35,59 +31,26 @@ PaneMetrics commonMetrics()
     return metrics;
 }
 
-PaneMetrics withTabBar(int width, int height)
-{
-    PaneMetrics metrics = commonMetrics();
-    metrics.tabBar = QSize(width, height);
-    return metrics;
-}
-
 } // namespace
-
-void tst_PaneGeometry::paneIsLaidOut_data()
-{
-    QTest::addColumn<PaneMetrics>("metrics");
-    QTest::addColumn<QRect>("close");
-    QTest::addColumn<QRect>("floating");
-    QTest::addColumn<QRect>("tabBar");
-    QTest::addColumn<int>("titleHeight");
-    const QRect close(277, 2, 20, 20);
-    const QRect floating(258, 4, 18, 16);
-
-    QTest::newRow("room for all") << commonMetrics() << close << floating << QRect(22, 0, 120, 26) << 26;
-    QTest::newRow("high tabs") << withTabBar(120, 40) << close << floating << QRect(22, 0, 120, 40) << 40;
-
-    PaneMetrics metrics = commonMetrics();
-    metrics.menuWidth = 0;
-    QTest::newRow("no menu button") << metrics << close << floating << QRect(0, 0, 120, 26) << 26;
-
-    metrics = commonMetrics();
-    metrics.lineSpacing = 40;
-    QTest::newRow("large font") << metrics << QRect(277, 12, 20, 20) << QRect(258, 14, 18, 16)
-                                << QRect(22, 0, 120, 46) << 46;
-
-    metrics = withTabBar(900, 10);
-    metrics.hasCloseButton = false;
-    metrics.closeButton = metrics.floatButton = QSize(0, 0);
-    QTest::newRow("tabs with close buttons")
-        << metrics << QRect(297, 10, 0, 0) << QRect(296, 10, 0, 0) << QRect(22, 0, 275, 21) << 21;
-
-    metrics = commonMetrics();
-    metrics.direction = Qt::RightToLeft;
-    QTest::newRow("right to left") << metrics << QRect(3, 2, 20, 20) << QRect(24, 4, 18, 16)
-                                   << QRect(158, 0, 120, 26) << 26;
-}
 
 void tst_PaneGeometry::paneIsLaidOut()
 {
-    QFETCH(PaneMetrics, metrics);
-    QFETCH(int, titleHeight);
-    const PaneLayout layout = layOutPane(metrics);
-    QTEST(layout.closeButton, "close");
-    QTEST(layout.floatButton, "floating");
-    QTEST(layout.tabBar, "tabBar");
-    QCOMPARE(layout.titleBar, QRect(0, 0, 300, titleHeight));
-    QCOMPARE(layout.stack, QRect(0, titleHeight, 300, 200 - titleHeight));
+    PaneMetrics metrics = commonMetrics();
+    PaneLayout layout = layOutPane(metrics);
+    QCOMPARE(layout.closeButton, QRect(277, 2, 20, 20));
+    QCOMPARE(layout.floatButton, QRect(258, 4, 18, 16));
+    QCOMPARE(layout.tabBar, QRect(22, 0, 120, 26));
+    QCOMPARE(layout.titleBar, QRect(0, 0, 300, 26));
+    QCOMPARE(layout.stack, QRect(0, 26, 300, 174));
+
+    // Neither menu button nor others, and more tabs than there is room for.
+    metrics.menuWidth = 0;
+    metrics.hasCloseButton = false;
+    metrics.closeButton = metrics.floatButton = QSize(0, 0);
+    metrics.tabBar = QSize(900, 40);
+    layout = layOutPane(metrics);
+    QCOMPARE(layout.tabBar, QRect(0, 0, 297, 40));
+    QCOMPARE(layout.stack, QRect(0, 40, 300, 160));
 
     metrics.titleVisible = false;
     QCOMPARE(layOutPane(metrics).titleBar, QRect(0, 0, 300, 3));
@@ -139,21 +102,14 @@ void tst_PaneGeometry::dropSide()
     QTEST(int(dropSideAt(position, QRect(QPoint(0, 0), pane - QSize(0, 30)), pane)), "side");
 }
 
-void tst_PaneGeometry::dropAreaIsHalf_data()
-{
-    QTest::addColumn<int>("side");
-    QTest::addColumn<QRect>("area");
-    QTest::newRow("centre") << +kDropCentre << QRect(1, 1, 98, 58);
-    QTest::newRow("left") << +kDropLeft << QRect(1, 1, 49, 58);
-    QTest::newRow("right") << +kDropRight << QRect(49, 1, 50, 58);
-    QTest::newRow("top") << +kDropTop << QRect(1, 1, 98, 29);
-    QTest::newRow("bottom") << +kDropBottom << QRect(1, 29, 98, 30);
-}
-
 void tst_PaneGeometry::dropAreaIsHalf()
 {
-    QFETCH(int, side);
-    QTEST(dropArea(QRect(1, 1, 98, 58), static_cast<DropSide>(side)), "area");
+    const QRect pane(1, 1, 98, 58);
+    QCOMPARE(dropArea(pane, kDropCentre), pane);
+    QCOMPARE(dropArea(pane, kDropLeft), QRect(1, 1, 49, 58));
+    QCOMPARE(dropArea(pane, kDropRight), QRect(49, 1, 50, 58));
+    QCOMPARE(dropArea(pane, kDropTop), QRect(1, 1, 98, 29));
+    QCOMPARE(dropArea(pane, kDropBottom), QRect(1, 29, 98, 30));
 }
 
 QTEST_APPLESS_MAIN(tst_PaneGeometry)

@@ -1,6 +1,7 @@
 #include <ui/docking/WidgetUtils.h>
 
 #include <tests/support/Waiting.h>
+#include <ui/docking/FloatingWindowRegistry.h>
 #include <ui/toolkit/Screens.h>
 
 using namespace Norvane::UI;
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void popUpUsesScreenOfRect();
     void popUpBelowWidgetStaysOnScreen_data();
     void popUpBelowWidgetStaysOnScreen();
+    void registryKeepsLivingWindowsInOrder();
 };
 
 void tst_WidgetUtils::fullscreenAndBack()
@@ -120,6 +122,23 @@ void tst_WidgetUtils::popUpBelowWidgetStaysOnScreen()
     popUp.move(corner);
     WidgetUtils::MoveWidgetNotObscuringWidget(&popUp, nullptr);
     QCOMPARE(popUp.pos(), corner + shift);
+}
+
+void tst_WidgetUtils::registryKeepsLivingWindowsInOrder()
+{
+    FloatingWindowRegistry registry;
+    QWidget first;
+    QWidget second;
+    {
+        QWidget goes;
+        QWidget* const windows[] = {&second, &goes, &first, &second, nullptr};
+        for (QWidget* const window : windows)
+            registry.addWindow(window);
+    }
+    QCOMPARE(registry.windows(), QList<QWidget*>() << &second << &first);
+    registry.removeWindow(&second);
+    registry.removeWindow(nullptr);
+    QCOMPARE(registry.windows(), QList<QWidget*>() << &first);
 }
 
 QTEST_MAIN(tst_WidgetUtils)
