@@ -13,11 +13,9 @@ class tst_HostScopes : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void levelsAreThoseOfTheComponent_data();
     void levelsAreThoseOfTheComponent();
     void waveformHasColumnsAndLevels();
     void scopesFollowTheGrade();
-    void stateIsKept();
 };
 
 namespace {
@@ -49,22 +47,15 @@ QRect traceOf(QWidget* view)
 
 } // namespace
 
-void tst_HostScopes::levelsAreThoseOfTheComponent_data()
-{
-    QTest::addColumn<int>("component");
-    QTest::addColumn<int>("level");
-    QTest::newRow("red") << int(kRedComponent) << 200;
-    QTest::newRow("green") << int(kGreenComponent) << 100;
-    QTest::newRow("blue") << int(kBlueComponent) << 50;
-    // 0.2126, 0.7152 and 0.0722 of them.
-    QTest::newRow("luma") << int(kLumaComponent) << 117;
-}
-
 void tst_HostScopes::levelsAreThoseOfTheComponent()
 {
-    QFETCH(int, component);
-    QTEST(levelOf(qRgb(200, 100, 50), ScopeComponent(component)), "level");
-    QCOMPARE(levelOf(qRgb(255, 255, 255), ScopeComponent(component)), 255);
+    const QRgb colour = qRgb(200, 100, 50);
+    QCOMPARE(levelOf(colour, kRedComponent), 200);
+    QCOMPARE(levelOf(colour, kGreenComponent), 100);
+    QCOMPARE(levelOf(colour, kBlueComponent), 50);
+    // 0.2126, 0.7152 and 0.0722 of them.
+    QCOMPARE(levelOf(colour, kLumaComponent), 117);
+    QCOMPARE(levelOf(qRgb(255, 255, 255), kLumaComponent), 255);
 }
 
 void tst_HostScopes::waveformHasColumnsAndLevels()
@@ -101,16 +92,6 @@ void tst_HostScopes::scopesFollowTheGrade()
     WAIT_FOR(qAbs(traceOf(waveform).top() - waveform->height() * (255 - 137) / 255) < 8);
     panel.setViewer(nullptr);
     WAIT_FOR(traceOf(waveform).isNull());
-}
-
-void tst_HostScopes::stateIsKept()
-{
-    ScopesPanel panel(2);
-    QCOMPARE(panel.layoutState(), QString(QLatin1String("luma")));
-    panel.setLayoutState(QLatin1String("rgb"));
-    QCOMPARE(panel.layoutState(), QString(QLatin1String("rgb")));
-    panel.setLayoutState(QLatin1String("rubbish"));
-    QCOMPARE(panel.layoutState(), QString(QLatin1String("luma")));
 }
 
 QTEST_MAIN(tst_HostScopes)
