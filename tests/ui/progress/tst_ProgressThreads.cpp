@@ -22,8 +22,9 @@ namespace {
 class TaskStorm
 {
 public:
-    TaskStorm(int threads, int turns)
-        : m_running(threads)
+    TaskStorm(ProgressManager* manager, int threads, int turns)
+        : m_manager(manager)
+        , m_running(threads)
     {
         for (int number = 0; number < threads; ++number)
             m_threads.emplace_back(&TaskStorm::run, this, turns);
@@ -53,14 +54,14 @@ private:
         --m_running;
     }
 
-    static void doTurn(int turn)
+    void doTurn(int turn)
     {
         const QString name = QString::fromLatin1("task %1").arg(turn);
         const int flags =
             ProgressTask::kUserCanCancel | ProgressTask::kUserCanPause | ProgressTask::kShowTimeToGo;
-        std::unique_ptr<ProgressTask> task(
-            new ProgressTask(name, 10, turn % 3 ? flags : flags | ProgressTask::kDelayedPopup));
-        ProgressTask child(name, 10, flags, task.get());
+        std::unique_ptr<ProgressTask> task(new ProgressTask(
+            name, 10, turn % 3 ? flags : flags | ProgressTask::kDelayedPopup, nullptr, m_manager));
+        ProgressTask child(name, 10, flags, task.get(), m_manager);
         const ProgressTask copy(child);
         for (int step = 0; step <= 10; ++step) {
             task->setProgress(step);
@@ -77,6 +78,7 @@ private:
         child.setProgress(copy.isCancelled() || copy.isPaused() ? 0 : copy.progress());
     }
 
+    ProgressManager* const m_manager;
     std::atomic<int> m_running;
     std::vector<std::thread> m_threads;
 };
@@ -87,26 +89,41 @@ class tst_ProgressThreads : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    // The first manager is the one that is asked where windows were.
+    void initTestCase() { static ProgressManager first; }
+    void failsWhileRead();
     void stormPassesDialog();
 };
+
+// Failing does not take the mutex that the reader holds.
+void tst_ProgressThreads::failsWhileRead()
+{
+    ProgressManager manager;
+    ProgressTask task(QString(), 10, 0, nullptr, &manager);
+    const QExplicitlySharedDataPointer<TaskPrivate> record(manager.tasks().first());
+    std::atomic<bool> isOver(false);
+    std::thread worker([&] {
+        for (int i = 0; i < 20000; ++i)
+            task.setErrorState(TaskStorm::message(i));
+        isOver = true;
+    });
+    bool isWhole = true;
+    const QMutexLocker locker(manager.lock());
+    while (!isOver)
+        isWhole = TaskStorm::isWhole(record->message()) && isWhole;
+    worker.join();
+    QVERIFY(isWhole);
+}
 
 // With a user who pauses, cancels and closes, and a host that takes the dialog away in the middle.
 void tst_ProgressThreads::stormPassesDialog()
 {
-    // The one that is asked where windows were.
-    static ProgressManager first;
     DialogProgressManager manager;
-    bool messagesAreWhole = true;
     int round = 0;
     {
-        const TaskStorm storm(8, 100);
+        const TaskStorm storm(&manager, 8, 100);
         while (!storm.isOver()) {
             QCoreApplication::processEvents();
-            {
-                const QMutexLocker locker(manager.lock());
-                for (const TaskPrivate* const task : manager.tasks())
-                    messagesAreWhole = messagesAreWhole && TaskStorm::isWhole(task->message());
-            }
             const QList<QPushButton*> buttons = manager.progressWidget()->findChildren<QPushButton*>();
             if (!buttons.isEmpty())
                 buttons.at(++round % buttons.size())->click();
@@ -118,7 +135,9 @@ void tst_ProgressThreads::stormPassesDialog()
             }
         }
     }
-    QVERIFY(messagesAreWhole);
+    // A dialog that was made after the last wake has not looked yet.
+    std::thread([&manager] { manager.wakeUp(); }).join();
+    QCoreApplication::processEvents();
     WAIT_FOR(manager.progressWidget()->findChildren<ProgressWidget*>().isEmpty());
     QVERIFY(manager.progressWidget()->isHidden());
     // Those that failed and were cleared stay listed.
