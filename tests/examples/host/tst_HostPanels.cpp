@@ -5,6 +5,8 @@
 #include <examples/host/PanelRegistry.h>
 #include <examples/host/PictureList.h>
 #include <examples/host/PictureView.h>
+#include <examples/host/ScopesPanel.h>
+#include <examples/host/ScopeView.h>
 #include <examples/host/ScriptInterpreter.h>
 #include <examples/host/ViewerPanel.h>
 #include <examples/host/ViewerState.h>
@@ -33,6 +35,8 @@ private Q_SLOTS:
     void viewerStateIsReadAndWritten();
     void controlsActOnTheirViewer();
     void colourGradesItsViewer();
+    void levelsAreThoseOfTheComponent();
+    void scopesFollowTheGrade();
     void notesKeepEveryCharacter();
     void idsNamePanels();
     void freeNumbersAreUsedAgain();
@@ -51,6 +55,21 @@ struct Panels {
     ScriptInterpreter scripts{&pictures};
     PanelRegistry registry{&pictures, &scripts};
 };
+
+/// The pixels of \a view that are lighter than its ground and its lines.
+QRect traceOf(QWidget* view)
+{
+    const QImage shown = UI::grabPixmap(view).toImage();
+    QRect trace;
+    // Beside the numbers: those lie left of the field and below it.
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = shown.width() / 2; x < shown.width() - 8; ++x) {
+            if (qGreen(shown.pixel(x, y)) > 150 && qRed(shown.pixel(x, y)) < 150)
+                trace |= QRect(x, y, 1, 1);
+        }
+    }
+    return trace;
+}
 
 } // namespace
 
@@ -140,6 +159,43 @@ void tst_HostPanels::colourGradesItsViewer()
     panel.setViewer(&first);
     panel.resetToDefault();
     QVERIFY(first.view()->grade().isNeutral() && second.view()->grade().isNeutral());
+}
+
+void tst_HostPanels::levelsAreThoseOfTheComponent()
+{
+    const QRgb colour = qRgb(200, 100, 50);
+    QCOMPARE(levelOf(colour, kRedComponent), 200);
+    QCOMPARE(levelOf(colour, kGreenComponent), 100);
+    QCOMPARE(levelOf(colour, kBlueComponent), 50);
+    // 0.2126, 0.7152 and 0.0722 of them.
+    QCOMPARE(levelOf(colour, kLumaComponent), 117);
+    QCOMPARE(levelOf(qRgb(255, 255, 255), kLumaComponent), 255);
+}
+
+void tst_HostPanels::scopesFollowTheGrade()
+{
+    // The left half is black, the right one white.
+    QImage picture(2, 1, QImage::Format_RGB32);
+    picture.setPixel(0, 0, qRgb(0, 0, 0));
+    picture.setPixel(1, 0, qRgb(255, 255, 255));
+    ViewerPanel viewer(1);
+    viewer.view()->setPicture(picture);
+    ScopesPanel panel(1);
+    panel.resize(300, 500);
+    panel.setViewer(&viewer);
+    panel.show();
+    WaveformView* const waveform = panel.findChild<WaveformView*>();
+    WAIT_FOR(!traceOf(waveform).isNull());
+    const int white = traceOf(waveform).top();
+    QVERIFY(white < waveform->height() / 8);
+
+    PictureGrade grade;
+    grade.exposure = -2;
+    viewer.view()->setGrade(grade);
+    // A quarter of the light is the code 137 of sRGB: a bit above the middle.
+    WAIT_FOR(qAbs(traceOf(waveform).top() - waveform->height() * (255 - 137) / 255) < 8);
+    panel.setViewer(nullptr);
+    WAIT_FOR(traceOf(waveform).isNull());
 }
 
 void tst_HostPanels::notesKeepEveryCharacter()

@@ -5,7 +5,6 @@
 #include <tests/support/GuilessMain.h>
 #include <tests/support/TaskListener.h>
 
-#include <QMutexLocker>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -34,8 +33,6 @@ private Q_SLOTS:
     void worksWithoutManager();
     void firstManagerIsInstance();
     void everyChangeWakesOnce();
-    void failingWaitsForNobody();
-    void endOfTask_data();
     void endOfTask();
     void copiesShareTask();
     void assignmentForgetsFormerOwner();
@@ -88,43 +85,26 @@ void tst_ProgressTask::everyChangeWakesOnce()
     }
 }
 
-void tst_ProgressTask::failingWaitsForNobody()
-{
-    ProgressManager manager;
-    ProgressTask task(QString(), 10, ProgressTask::kModal, nullptr, &manager);
-    const auto record = lastRecord(manager);
-    const QMutexLocker held(manager.lock());
-    task.setErrorState(QString::fromLatin1("no room"));
-    QCOMPARE(record->message(), QString::fromLatin1("no room"));
-    QCOMPARE(int(record->flags), 0x88008 | 32);
-    QVERIFY(record->error);
-}
-
-void tst_ProgressTask::endOfTask_data()
-{
-    QTest::addColumn<int>("flags");
-    QTest::addColumn<bool>("fails");
-    QTest::addColumn<bool>("finished");
-    QTest::newRow("goes") << 0 << false << true;
-    QTest::newRow("is kept") << int(ProgressTask::kKeepWhenFinished) << false << false;
-    QTest::newRow("failed") << 0 << true << false;
-}
-
 void tst_ProgressTask::endOfTask()
 {
-    QFETCH(int, flags);
-    QFETCH(bool, fails);
-    ProgressManager manager;
-    std::unique_ptr<ProgressTask> task(new ProgressTask(QString(), 10, flags, nullptr, &manager));
-    if (fails)
-        task->setErrorState(QString());
-    const auto record = lastRecord(manager);
-    QSignalSpy wakes(&manager, SIGNAL(wake()));
-    task.reset();
-    QVERIFY(!record->owner);
-    QTEST(bool(record->finished), "finished");
-    QCOMPARE(wakes.count(), 1);
-    QCOMPARE(manager.tasksCount(), 1);
+    const struct {
+        int flags;
+        bool fails;
+        bool isFinished;
+    } cases[] = {{0, false, true}, {ProgressTask::kKeepWhenFinished, false, false}, {0, true, false}};
+    for (const auto& each : cases) {
+        ProgressManager manager;
+        std::unique_ptr<ProgressTask> task(new ProgressTask(QString(), 10, each.flags, nullptr, &manager));
+        if (each.fails)
+            task->setErrorState(QString());
+        const auto record = lastRecord(manager);
+        QSignalSpy wakes(&manager, SIGNAL(wake()));
+        task.reset();
+        QVERIFY(!record->owner);
+        QCOMPARE(bool(record->finished), each.isFinished);
+        QCOMPARE(wakes.count(), 1);
+        QCOMPARE(manager.tasksCount(), 1);
+    }
 }
 
 void tst_ProgressTask::copiesShareTask()

@@ -99,7 +99,7 @@ private Q_SLOTS:
 void tst_ProgressThreads::failsWhileRead()
 {
     ProgressManager manager;
-    ProgressTask task(QString(), 10, 0, nullptr, &manager);
+    ProgressTask task(QString(), 10, ProgressTask::kModal, nullptr, &manager);
     const QExplicitlySharedDataPointer<TaskPrivate> record(manager.tasks().first());
     std::atomic<bool> isOver(false);
     std::thread worker([&] {
@@ -113,6 +113,9 @@ void tst_ProgressThreads::failsWhileRead()
         isWhole = TaskStorm::isWhole(record->message()) && isWhole;
     worker.join();
     QVERIFY(isWhole);
+    QCOMPARE(record->message(), TaskStorm::message(19999));
+    QCOMPARE(int(record->flags), 0x88008 | 32);
+    QVERIFY(record->error);
 }
 
 // With a user who pauses, cancels and closes, and a host that takes the dialog away in the middle.
