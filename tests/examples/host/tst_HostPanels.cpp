@@ -39,7 +39,6 @@ private Q_SLOTS:
     void scopesFollowTheGrade();
     void notesKeepEveryCharacter();
     void idsNamePanels();
-    void freeNumbersAreUsedAgain();
     void closedNotesWithTextStay();
 };
 
@@ -225,18 +224,6 @@ void tst_HostPanels::idsNamePanels()
     }
     for (const char* const id : {"Sounds.1", "Viewer.", "Viewer.0", "Viewer.01", "Viewer", ""})
         QVERIFY2(!panels.registry.panel(latin1(id)), id);
-}
-
-void tst_HostPanels::freeNumbersAreUsedAgain()
-{
-    Panels panels;
-    const auto newViewer = [&] { return panels.registry.createPanel(PanelRegistry::ViewerKind); };
-    QWidget* const first = newViewer();
-    panels.registry.panel(latin1("Viewer.3"));
-    QCOMPARE(newViewer()->objectName(), latin1("Viewer.2"));
-    QCOMPARE(newViewer()->objectName(), latin1("Viewer.4"));
-    delete first;
-    QCOMPARE(newViewer()->objectName(), latin1("Viewer.1"));
 }
 
 void tst_HostPanels::closedNotesWithTextStay()

@@ -9,7 +9,6 @@ class tst_PictureGeometry : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void fitShowsAll();
-    void pictureIsPlaced_data();
     void pictureIsPlaced();
     void zoomKeepsPointUnderMouse();
     void touchedPixelsCoverTheirPart_data();
@@ -26,27 +25,19 @@ void tst_PictureGeometry::fitShowsAll()
     QCOMPARE(fitScale(QSize(10, 10), QSize(40, 0)), 1.0);
 }
 
-void tst_PictureGeometry::pictureIsPlaced_data()
-{
-    QTest::addColumn<double>("scale");
-    QTest::addColumn<QPointF>("center");
-    QTest::addColumn<QPointF>("origin");
-    // A picture of 200 x 100 in a view of 100 x 80.
-    QTest::newRow("smaller is centred") << 0.5 << QPointF(0, 0) << QPointF(0, 15);
-    QTest::newRow("centre in the middle") << 2.0 << QPointF(100, 50) << QPointF(-150, -60);
-    QTest::newRow("no gap on the left") << 2.0 << QPointF(3, 50) << QPointF(0, -60);
-    QTest::newRow("no gap on the right, below") << 2.0 << QPointF(190, 99) << QPointF(-300, -120);
-    QTest::newRow("larger in one direction") << 0.7 << QPointF(0, 0) << QPointF(0, 5);
-}
-
 void tst_PictureGeometry::pictureIsPlaced()
 {
-    QFETCH(double, scale);
-    QFETCH(QPointF, center);
-    const Placement placement = placePicture(QSize(200, 100), QSize(100, 80), scale, center);
-    QCOMPARE(placement.scale, scale);
-    QTEST(placement.origin, "origin");
-    QTEST(placement.rect(QSize(200, 100)).topLeft(), "origin");
+    const auto originOf = [](qreal scale, const QPointF& center) {
+        const Placement placement = placePicture(QSize(200, 100), QSize(100, 80), scale, center);
+        return placement.rect(QSize(200, 100)).topLeft();
+    };
+    // Smaller than the view, larger with its centre in the middle, without gaps at its borders.
+    QCOMPARE(originOf(0.5, QPointF(0, 0)), QPointF(0, 15));
+    QCOMPARE(originOf(2, QPointF(100, 50)), QPointF(-150, -60));
+    QCOMPARE(originOf(2, QPointF(3, 50)), QPointF(0, -60));
+    QCOMPARE(originOf(2, QPointF(190, 99)), QPointF(-300, -120));
+    // Larger in one direction.
+    QCOMPARE(originOf(0.7, QPointF(0, 0)), QPointF(0, 5));
 }
 
 void tst_PictureGeometry::zoomKeepsPointUnderMouse()
