@@ -10,36 +10,21 @@ class tst_MainThreadAtExit : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void beforeApplication();
-    void waiterIsReleased();
-    void afterApplication();
-    void requestOutlivesInterpreter();
-
-private:
-    Interpreter* python = nullptr;
+    void everybodyIsAnswered();
 };
 
-namespace {
-
-const char kWait[] = "result = norvane.run_in_main_thread_with_result(len, 'four')\n";
-
-} // namespace
-
-void tst_MainThreadAtExit::beforeApplication()
+void tst_MainThreadAtExit::everybodyIsAnswered()
 {
-    python = new Interpreter;
-    QCOMPARE(python->run(kWait),
-             QString::fromLatin1("RuntimeError: there is no application to make the call"));
-}
+    const char wait[] = "result = norvane.run_in_main_thread_with_result(len, 'four')\n";
+    const QString refusal = QString::fromLatin1("RuntimeError: there is no application to make the call");
+    std::unique_ptr<Interpreter> python(new Interpreter);
+    QCOMPARE(python->run(wait), refusal);
 
-void tst_MainThreadAtExit::waiterIsReleased()
-{
     int argc = 1;
     char name[] = "program";
     char* argv[] = {name, nullptr};
     std::unique_ptr<QCoreApplication> application(new QCoreApplication(argc, argv));
-    QCOMPARE(python->runOnWorker(kWait), QString::fromLatin1("4"));
-
+    QCOMPARE(python->runOnWorker(wait), QString::fromLatin1("4"));
     QString answer;
     std::atomic<bool> hasPosted(false);
     std::thread worker([&] {
@@ -49,7 +34,7 @@ void tst_MainThreadAtExit::waiterIsReleased()
                     "sys.count = sys.getrefcount(sys.watched)\n"
                     "norvane.run_in_main_thread(len, sys.watched)\n");
         hasPosted = true;
-        answer = python->run(kWait);
+        answer = python->run(wait);
     });
     while (!hasPosted)
         std::this_thread::yield();
@@ -59,18 +44,10 @@ void tst_MainThreadAtExit::waiterIsReleased()
     QVERIFY2(answer.startsWith(QLatin1String("RuntimeError: ")), qPrintable(answer));
     QCOMPARE(python->run("import sys\nresult = sys.getrefcount(sys.watched) - sys.count\n"),
              QString::fromLatin1("0"));
-}
+    QCOMPARE(python->run(wait), refusal);
 
-void tst_MainThreadAtExit::afterApplication()
-{
-    QCOMPARE(python->run(kWait),
-             QString::fromLatin1("RuntimeError: there is no application to make the call"));
-}
-
-void tst_MainThreadAtExit::requestOutlivesInterpreter()
-{
-    delete python;
-    python = nullptr;
+    // Requests may outlive the interpreter.
+    python.reset();
     QVERIFY(!Py_IsInitialized());
 }
 

@@ -6,8 +6,6 @@
 #include <tests/support/Interpreter.h>
 #include <tests/support/Waiting.h>
 
-#include <memory>
-
 using namespace Norvane::UI;
 using NorvaneTest::Interpreter;
 
@@ -15,32 +13,16 @@ class tst_ProgressTaskType : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
     void results_data();
     void results();
-    void namesAreDecoded();
     void taskIsListedUntilFreed();
     void mainThreadProcessesEvents();
     void threadsReport();
 
 private:
-    std::unique_ptr<Interpreter> python;
-    std::unique_ptr<ProgressManager> manager;
+    ProgressManager manager;
+    Interpreter python;
 };
-
-void tst_ProgressTaskType::initTestCase()
-{
-    manager.reset(new ProgressManager);
-    python.reset(new Interpreter);
-    QVERIFY(python->isWhole);
-}
-
-void tst_ProgressTaskType::cleanupTestCase()
-{
-    python.reset();
-    manager.reset();
-}
 
 void tst_ProgressTaskType::results_data()
 {
@@ -54,18 +36,14 @@ void tst_ProgressTaskType::results_data()
     row("[Task.kDisable, Task.kModal, Task.kUserCanPause]", "[16, 32, 64]");
     row("(Task.__name__, Task.__doc__)", "('ProgressTask', 'ProgressTask')");
     row("Task('x').setProgress(5)", "None");
-    row("Task('x').setMessage('y')", "None");
     row("Task('x').isCancelled()", "False");
 
     row("Task()", "TypeError: ");
-    row("Task(5)", "TypeError: ");
     row("Task('x', 'y')", "TypeError: ");
-    row("Task('x', 1, 2, 3)", "TypeError: ");
     row("Task(name='x')", "TypeError: ProgressTask() takes no keyword arguments");
     row("Task('x').setProgress('y')", "TypeError: ");
     row("Task('x').setProgress(2 ** 40)", "OverflowError: ");
     row("Task('x').setMessage()", "TypeError: ");
-    row("Task('x').isCancelled(1)", "TypeError: ");
     row("type('Sub', (Task,), {})", "TypeError: ");
 }
 
@@ -74,37 +52,31 @@ void tst_ProgressTaskType::results()
     QFETCH(QString, expression);
     QFETCH(QString, expected);
     const QByteArray script = "Task = norvane.ProgressTask\nresult = " + expression.toLatin1() + "\n";
-    const QString result = python->run(script.constData());
+    const QString result = python.run(script.constData());
     QVERIFY2(expected.endsWith(QLatin1String(": ")) ? result.startsWith(expected) : result == expected,
              qPrintable(result));
-    python->run("import gc\ngc.collect()\n");
-}
-
-// Of a name that is no text in every encoding.
-void tst_ProgressTaskType::namesAreDecoded()
-{
-    python->run("import norvane\nnorvane.kept = norvane.ProgressTask('L\\xc3\\xa9o', 7)\n");
-    const TaskPrivate* const task = manager->tasks().last();
-    // In Python 3 the escapes are letters of the name, in Python 2 they are its bytes, which are Latin-1.
-    QCOMPARE(task->name, QString::fromLatin1("L\xc3\xa9o"));
-    QCOMPARE(int(task->maximum), 7);
-    QCOMPARE(int(task->flags), int(ProgressTask::kUserCanCancel | ProgressTask::kShowTimeToGo));
-    python->run("norvane.kept.setMessage('L\\xe9o')\nnorvane.kept.setProgress(3)\n");
-    QCOMPARE(task->message(), QString::fromLatin1("L\xe9o"));
-    QCOMPARE(int(task->progress), 3);
-    python->run("del norvane.kept\n");
+    python.run("import gc\ngc.collect()\n");
 }
 
 void tst_ProgressTaskType::taskIsListedUntilFreed()
 {
-    python->run("norvane.kept = norvane.ProgressTask('x', 10, norvane.ProgressTask.kModal)\n");
-    const QExplicitlySharedDataPointer<TaskPrivate> task(manager->tasks().last());
-    QVERIFY(!task->finished);
-    QCOMPARE(int(task->flags), int(ProgressTask::kModal));
+    // A name that is no text in every encoding.
+    python.run("norvane.kept = norvane.ProgressTask('L\\xc3\\xa9o', 7)\n");
+    const QExplicitlySharedDataPointer<TaskPrivate> task(manager.tasks().last());
+    // In Python 3 the escapes are letters of the name, in Python 2 they are its bytes, which are Latin-1.
+    QCOMPARE(task->name, QString::fromLatin1("L\xc3\xa9o"));
+    QCOMPARE(int(task->maximum), 7);
+    QCOMPARE(int(task->flags), int(ProgressTask::kUserCanCancel | ProgressTask::kShowTimeToGo));
+    python.run("norvane.kept.setMessage('L\\xe9o')\nnorvane.kept.setProgress(3)\n");
+    QCOMPARE(task->message(), QString::fromLatin1("L\xe9o"));
+    QCOMPARE(int(task->progress), 3);
     task->cancelled = true;
-    QCOMPARE(python->run("result = norvane.kept.isCancelled()\n"), QString::fromLatin1("True"));
-    python->run("del norvane.kept\n");
+    QCOMPARE(python.run("result = norvane.kept.isCancelled()\n"), QString::fromLatin1("True"));
+    QVERIFY(!task->finished);
+    python.run("norvane.kept = norvane.ProgressTask('x', 10, norvane.ProgressTask.kModal)\n");
     QVERIFY(task->finished);
+    QCOMPARE(int(manager.tasks().last()->flags), int(ProgressTask::kModal));
+    python.run("del norvane.kept\n");
 }
 
 // What a posted call leaves behind is reported and does not end the script.
@@ -129,8 +101,8 @@ void tst_ProgressTaskType::mainThreadProcessesEvents()
                           "    setter(value)\n"
                           "sys.stderr = sys.__stderr__\n"
                           "result = (calls, ''.join(lines).count('nobody waits'))\n";
-    QCOMPARE(python->run(script), QString::fromLatin1("([1, 1], 2)"));
-    QCOMPARE(python->takePending(), QString());
+    QCOMPARE(python.run(script), QString::fromLatin1("([1, 1], 2)"));
+    QCOMPARE(python.takePending(), QString());
 }
 
 void tst_ProgressTaskType::threadsReport()
@@ -146,10 +118,10 @@ void tst_ProgressTaskType::threadsReport()
                           "for thread in threads: thread.start()\n"
                           "for thread in threads: thread.join()\n"
                           "result = 'done'\n";
-    const int before = manager->tasksCount();
-    QCOMPARE(python->runOnWorker(script), QString::fromLatin1("done"));
-    QCOMPARE(manager->tasksCount(), before + 400);
-    for (const TaskPrivate* const task : manager->tasks())
+    const int before = manager.tasksCount();
+    QCOMPARE(python.runOnWorker(script), QString::fromLatin1("done"));
+    QCOMPARE(manager.tasksCount(), before + 400);
+    for (const TaskPrivate* const task : manager.tasks())
         QVERIFY(task->finished);
 }
 

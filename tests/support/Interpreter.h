@@ -25,7 +25,7 @@ public:
         PyObject* const module = PyImport_AddModule("norvane");
         addFunction(module, &s_run);
         addFunction(module, &s_runWithResult);
-        isWhole = Norvane::UI::addProgressTaskType(module) == 0;
+        Norvane::UI::addProgressTaskType(module);
         m_main = PyEval_SaveThread();
     }
 
@@ -68,8 +68,6 @@ public:
         PyGILState_Release(state);
         return text;
     }
-
-    bool isWhole = false;
 
 private:
     using Function = PyObject* (*)(PyObject*, PyObject*, PyObject*);

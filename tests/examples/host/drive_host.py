@@ -15,6 +15,7 @@ import xml.etree.ElementTree as ElementTree
 
 TAB_ROW = 13  # a point in the title strip, from the top of a pane
 FIRST_TAB = 45  # a point in a pane's first tab, from its left edge: behind the menu button
+HANDLE = 5  # the width of a splitter's handle
 PATIENCE = 20  # seconds
 
 
@@ -53,28 +54,10 @@ class Layout:
     def pages(pane):
         return [page.get("id") for page in pane.findall("page")]
 
-    def pane_of(self, page):
-        for window in self.windows:
-            for pane in window.iter("dock"):
-                if page in self.pages(pane):
-                    return pane
-        raise AssertionError(f"{page} is in no pane of\n{self.text}")
-
     def focused_page(self):
-        for window in self.windows:
-            for pane in window.iter("dock"):
-                if pane.get("focus"):
-                    return pane.get("activePageId")
-        raise AssertionError(f"no pane has the focus in\n{self.text}")
-
-    def neighbours(self, page):
-        """The children of the splitter that holds the page's pane, with its orientation."""
-        pane = self.pane_of(page)
-        for splitter in (s for window in self.windows for s in window.iter("splitter")):
-            children = [child for child in splitter if child.tag != "split"]
-            if pane in children:
-                return int(splitter.get("orientation")), children
-        raise AssertionError(f"{page} is in no splitter")
+        focused = [pane for window in self.windows for pane in window.iter("dock") if pane.get("focus")]
+        check(focused, f"no pane has the focus in\n{self.text}")
+        return focused[0].get("activePageId")
 
     def rectangles(self, client, window=0):
         """Where each pane of a window with the client size (w, h) lies: {page ids: (x, y, w, h)}."""
@@ -89,16 +72,16 @@ def split_sizes(splitter):
     return [int(split.get("size")) for split in splitter.findall("split")]
 
 
-def extent(node, handle=5):
+def extent(node):
     """The size of a splitter as its own splits and those of the splitters in it tell; None where they do not."""
     children = [child for child in node if child.tag != "split"]
-    along = sum(split_sizes(node)) + handle * (len(children) - 1)
+    along = sum(split_sizes(node)) + HANDLE * (len(children) - 1)
     across = next((size for size in (extent(child)[1 if node.get("orientation") == "1" else 0]
                                      for child in children if child.tag == "splitter") if size), None)
     return (along, across) if node.get("orientation") == "1" else (across, along)
 
 
-def place(node, rectangle, found, handle=5):
+def place(node, rectangle, found):
     x, y, width, height = rectangle
     if node.tag == "dock":
         found[tuple(Layout.pages(node))] = rectangle
@@ -106,7 +89,7 @@ def place(node, rectangle, found, handle=5):
     horizontal = node.get("orientation") == "1"
     for size, child in zip(split_sizes(node), (child for child in node if child.tag != "split")):
         place(child, (x, y, size, height) if horizontal else (x, y, width, size), found)
-        x, y = (x + size + handle, y) if horizontal else (x, y + size + handle)
+        x, y = (x + size + HANDLE, y) if horizontal else (x, y + size + HANDLE)
 
 
 def visible_windows(name):
@@ -223,12 +206,10 @@ class Desk:
             host.drag((from_x + FIRST_TAB, from_y + TAB_ROW), (to_x + width - 10, to_y + height / 2))
 
         result = self.session(drag)
-        orientation, children = result.neighbours(page)
-        names = [result.pages(child) for child in children if child.tag == "dock"]
-        check(orientation == 1, f"the new pane does not lie beside the target:\n{result.text}")
-        check([page] in names and names.index([page]) == names.index(result.pages(target)) + 1,
+        areas = result.rectangles((0, 0))
+        mine, its = areas.get((page,)), areas.get(tuple(layout.pages(target)))
+        check(mine and its and (mine[0], mine[1], mine[3]) == (its[0] + its[2] + HANDLE, its[1], its[3]),
               f"{page} is not alone and right of the target:\n{result.text}")
-        check(page not in layout.pages(target), "nothing was dragged")
         return result
 
     def control_click_floats(self, layout):

@@ -30,13 +30,12 @@ class tst_HostArrangements : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
-    void init();
+    void init() { open(QString()); }
     void cleanup();
     void cleanupTestCase();
     void switchIsUndone();
     void closedViewerComesBack();
     void ownArrangementIsShown();
-    void brokenArrangementChangesNothing();
     void newPanelJoinsItsNeighbours_data();
     void newPanelJoinsItsNeighbours();
     void panelsFollowTheFocusedViewer();
@@ -46,6 +45,8 @@ private Q_SLOTS:
 private:
     /// A window with two pictures, in the arrangement that is the first one.
     void open(const QString& script);
+    /// Gives the menu an arrangement of the user's own.
+    void addOwn(const QString& name, const QByteArray& layout);
     /// The entry of any menu with this text, mnemonic and all.
     QAction* entry(const char* text) const;
     /// The panes of the main window.
@@ -54,7 +55,6 @@ private:
     UI::DialogProgressManager m_progress;
     QString m_folder;
     QPointer<HostWindow> m_window;
-    QPointer<ArrangementMenu> m_menu;
 };
 
 void tst_HostArrangements::initTestCase()
@@ -67,15 +67,9 @@ void tst_HostArrangements::initTestCase()
     QCoreApplication::setApplicationName(latin1("norvane-host"));
 }
 
-void tst_HostArrangements::init()
-{
-    open(QString());
-}
-
 void tst_HostArrangements::open(const QString& script)
 {
     m_window = new HostWindow(&m_progress);
-    m_menu = m_window->findChild<ArrangementMenu*>();
     CommandLine commandLine;
     commandLine.fresh = true;
     commandLine.scriptPath = script;
@@ -100,6 +94,13 @@ void tst_HostArrangements::cleanupTestCase()
         QVERIFY(QDir().rmdir(folder));
     }
     QDir().rmdir(m_folder);
+}
+
+void tst_HostArrangements::addOwn(const QString& name, const QByteArray& layout)
+{
+    QString problem;
+    QVERIFY(ArrangementFolder(ArrangementFolder::defaultPath()).write(name, layout, &problem));
+    QVERIFY(QMetaObject::invokeMethod(m_window->findChild<ArrangementMenu*>(), "refresh"));
 }
 
 QAction* tst_HostArrangements::entry(const char* text) const
@@ -148,7 +149,9 @@ void tst_HostArrangements::closedViewerComesBack()
     QAction* const undo = entry("&Undo");
     QPointer<ViewerPanel> viewer = m_window->focusedViewer();
     const QString id = viewer->objectName();
-    viewer->setLayoutState(latin1("2.5 40 30|/no/such/Picture.png"));
+    // It travels through a document.
+    const QString state = latin1("2.5 40 30|/no/such/<A> & \"B\".png");
+    viewer->setLayoutState(state);
     const QString before = panes();
     Dock::dockForWidget(viewer)->closeActiveTab();
     WAIT_FOR(!viewer && undo->isEnabled());
@@ -156,35 +159,24 @@ void tst_HostArrangements::closedViewerComesBack()
     undo->trigger();
     QCOMPARE(panes(), before);
     QCOMPARE(m_window->findDockByName(id, true, false)->currentWidget()->property("layoutState").toString(),
-             latin1("2.5 40 30|/no/such/Picture.png"));
+             state);
 }
 
 void tst_HostArrangements::ownArrangementIsShown()
 {
-    const QString name = latin1("A & B");
     entry("&Single")->trigger();
     const QString single = panes();
-    QString problem;
-    ArrangementFolder folder(ArrangementFolder::defaultPath());
-    QVERIFY(folder.write(name, LayoutStore::layoutOf(m_window), &problem));
+    addOwn(latin1("A & B"), LayoutStore::layoutOf(m_window));
     entry("Side &by Side")->trigger();
     entry("New &Viewer")->trigger();
-    QVERIFY(QMetaObject::invokeMethod(m_menu, "refresh"));
-
     QCOMPARE(entry("A && B")->shortcut(), QKeySequence(latin1("Ctrl+4")));
     entry("A && B")->trigger();
     const Dock* const pane = m_window->findDockByName(latin1("Viewer.3"), true, false);
     QVERIFY(pane);
     QCOMPARE(pane->objectName(), latin1("pane.viewers"));
     QCOMPARE(panes().remove(latin1(" Viewer 3/Viewer.3")), single);
-}
 
-void tst_HostArrangements::brokenArrangementChangesNothing()
-{
-    QString problem;
-    ArrangementFolder folder(ArrangementFolder::defaultPath());
-    QVERIFY(folder.write(latin1("Broken"), "<layout version=\"1.0\">\n<window>", &problem));
-    QVERIFY(QMetaObject::invokeMethod(m_menu, "refresh"));
+    addOwn(latin1("Broken"), "<layout version=\"1.0\">\n<window>");
     const QString before = panes();
     MessageBoxCloser closer;
     entry("Broken")->trigger();
@@ -192,32 +184,30 @@ void tst_HostArrangements::brokenArrangementChangesNothing()
     QVERIFY2(closer.lastText().contains(latin1("\"Broken\"")), qPrintable(closer.lastText()));
     QVERIFY2(closer.lastText().contains(latin1("2")), qPrintable(closer.lastText()));
     QCOMPARE(panes(), before);
-    QVERIFY(folder.contains(latin1("Broken")));
 }
 
 void tst_HostArrangements::newPanelJoinsItsNeighbours_data()
 {
-    QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("neighbour");
-    // The keyboard is in the first viewer.
-    QTest::newRow("where the user is") << QByteArray("New &Pictures") << "Pictures.2"
-                                       << "Viewer.1";
-    QTest::newRow("beside the viewer") << QByteArray("New &Viewer") << "Viewer.3"
-                                       << "Viewer.1";
-    QTest::newRow("not before the viewer") << QByteArray("New Contro&ls") << "Controls.1"
-                                           << "Pictures.1";
-    QTest::newRow("where lines have room") << QByteArray("New &Script") << "Script.1"
-                                           << "Notes.1";
+    // The keyboard is in the first viewer: where the user is, beside the viewer, not before the viewer, and
+    // where lines have room.
+    QTest::newRow("New &Pictures") << "Pictures.2"
+                                   << "Viewer.1";
+    QTest::newRow("New &Viewer") << "Viewer.3"
+                                 << "Viewer.1";
+    QTest::newRow("New Contro&ls") << "Controls.1"
+                                   << "Pictures.1";
+    QTest::newRow("New &Script") << "Script.1"
+                                 << "Notes.1";
 }
 
 void tst_HostArrangements::newPanelJoinsItsNeighbours()
 {
-    QFETCH(QByteArray, text);
     QFETCH(QString, id);
     QFETCH(QString, neighbour);
     WAIT_FOR(m_window->windowTitle().startsWith(latin1("Dunes.png")));
-    entry(text.constData())->trigger();
+    entry(QTest::currentDataTag())->trigger();
     const Dock* const pane = m_window->findDockByName(neighbour, true, false);
     QCOMPARE(m_window->findDockByName(id, true, false), pane);
     QCOMPARE(pane->currentWidget()->objectName(), id);

@@ -1,18 +1,27 @@
 #include <examples/host/CommandLine.h>
+#include <examples/host/FrameDialog.h>
 #include <examples/host/FrameInspector.h>
+#include <examples/host/FrameSaveDialog.h>
 #include <examples/host/Pictures.h>
 #include <examples/host/PictureView.h>
 #include <examples/host/VideoFrames.h>
 #include <examples/host/ViewerPanel.h>
 
-#include <tests/support/Waiting.h>
+#include <tests/support/Desk.h>
+#include <tests/support/MessageBoxCloser.h>
+
+#include <ui/widgets/FilenameField.h>
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDir>
-#include <QProcess>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTemporaryFile>
 
+using namespace NorvaneTest;
 using namespace Norvane;
 using namespace Norvane::Host;
 
@@ -24,26 +33,20 @@ private Q_SLOTS:
     void wrongFramesAreExplained();
     void writtenFramesAreRead_data();
     void writtenFramesAreRead();
-    void barsHaveTheirColours_data();
-    void barsHaveTheirColours();
-    void picturesAreThoseOfTheDecoder_data();
-    void picturesAreThoseOfTheDecoder();
     void chosenMatrixIsUsed();
+    void fileSuggestsItsFormat();
+    void problemIsToldUntilItIsMended();
+    void savedFileHasTheSuffixOfItsLayout();
 };
 
 namespace {
-
-QString latin1(const char* text)
-{
-    return QLatin1String(text);
-}
 
 /// A file that is gone with the object.
 class FrameFile
 {
 public:
-    explicit FrameFile(const QByteArray& bytes)
-        : m_file(QDir::temp().filePath(latin1("tst_HostFrames-XXXXXX")))
+    explicit FrameFile(const QByteArray& bytes, const QString& suffix = QString())
+        : m_file(QDir::temp().filePath(latin1("tst_HostFrames-XXXXXX.") + suffix))
     {
         m_file.open();
         m_file.write(bytes);
@@ -52,27 +55,12 @@ public:
     QString path() const { return m_file.fileName(); }
     FrameAddress as(const QString& format) const
     {
-        FrameAddress address;
-        address.format = format;
-        address.path = path();
-        return address;
+        return FrameAddress::fromString(latin1("frame:%1|%2").arg(format, path()));
     }
 
 private:
     QTemporaryFile m_file;
 };
-
-/// One frame of a source of ffmpeg's, through its filters; empty if that fails.
-QByteArray ffmpegFrame(const char* source, const char* filters, const char* output)
-{
-    QProcess ffmpeg;
-    ffmpeg.start(latin1("ffmpeg"), QStringList()
-                                       << latin1("-v") << latin1("error") << latin1("-f") << latin1("lavfi")
-                                       << latin1("-i") << latin1(source) << latin1("-vf") << latin1(filters)
-                                       << latin1("-frames:v") << latin1("1")
-                                       << latin1(output).split(QLatin1Char(' ')) << latin1("-"));
-    return ffmpeg.waitForFinished() && ffmpeg.exitCode() == 0 ? ffmpeg.readAllStandardOutput() : QByteArray();
-}
 
 int difference(QRgb one, QRgb other)
 {
@@ -80,55 +68,28 @@ int difference(QRgb one, QRgb other)
                 qMax(qAbs(qGreen(one) - qGreen(other)), qAbs(qBlue(one) - qBlue(other))));
 }
 
-void addFfmpegRows()
-{
-    // 1270 pixels are neither whole groups of v210 nor is a row of them without padding.
-    QTest::addColumn<QByteArray>("filters");
-    QTest::addColumn<QByteArray>("output");
-    QTest::addColumn<QString>("format");
-    const QByteArray in709 = "scale=1270:720:out_color_matrix=bt709,format=";
-    const QByteArray in601 = "scale=1270:720:out_color_matrix=bt601,format=";
-    QTest::newRow("v210") << in709 + "yuv422p10" << QByteArray("-c:v v210 -f rawvideo") << "v210:1270x720";
-    QTest::newRow("uyvy422") << in709 + "uyvy422" << QByteArray("-f rawvideo") << "CbYCrY8:1270x720";
-    QTest::newRow("uyvy422, Rec 601")
-        << in601 + "uyvy422" << QByteArray("-f rawvideo") << "CbYCrY8:1270x720:Rec 601";
-    QTest::newRow("yuyv422") << in601 + "yuyv422" << QByteArray("-f rawvideo") << "YCbYCr8:1270x720";
-}
-
 } // namespace
 
 void tst_HostFrames::wrongFramesAreExplained_data()
 {
-    QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("problem");
-    QTest::newRow("unknown layout") << "v410:4x2"
-                                    << "There is no layout \"v410\"";
-    QTest::newRow("no size") << "v210"
-                             << "such as v210:1920x1080";
-    QTest::newRow("no number") << "v210:4xlots"
-                               << "such as v210:1920x1080";
-    QTest::newRow("negative") << "v210:-4x-2"
-                              << "such as v210:1920x1080";
-    QTest::newRow("too large for memory") << "AYCbCrF:32767x32767"
-                                          << "The file has 16 bytes";
-    QTest::newRow("short file") << "CbYCrY8:4x3"
-                                << "The file has 16 bytes; a frame of 4 x 3 pixels";
-    QTest::newRow("long file") << "CbYCrY8:2x2"
-                               << "in CbYCrY8 has 8";
-    QTest::newRow("cannot be read") << "AYCbCr8In16:2x1"
-                                    << "can be written, but not read";
-    QTest::newRow("unknown matrix") << "CbYCrY8:4x2:Rec 7"
-                                    << "no matrix \"Rec 7\"";
-    QTest::newRow("right") << "cbycry8:4x2:rec 601"
-                           << "";
+    QTest::newRow("v410:4x2") << "There is no layout \"v410\"";
+    for (const char* const format : {"v210", "v210:4xlots", "v210:-4x-2"})
+        QTest::newRow(format) << "such as v210:1920x1080";
+    QTest::newRow("AYCbCrF:32767x32767") << "The file has 16 bytes";
+    QTest::newRow("CbYCrY8:4x3") << "The file has 16 bytes; a frame of 4 x 3 pixels";
+    QTest::newRow("CbYCrY8:2x2") << "in CbYCrY8 has 8";
+    QTest::newRow("AYCbCr8In16:2x1") << "can be written, but not read";
+    QTest::newRow("CbYCrY8:4x2:Rec 7") << "no matrix \"Rec 7\"";
+    QTest::newRow("cbycry8:4x2:rec 601") << "";
 }
 
 void tst_HostFrames::wrongFramesAreExplained()
 {
-    QFETCH(QString, format);
     QFETCH(QString, problem);
     const FrameFile file(QByteArray(16, '\x80'));
-    const CommandLine line = CommandLine::parse(QStringList() << latin1("host") << latin1("--frame") << format
+    const CommandLine line = CommandLine::parse(QStringList() << latin1("host") << latin1("--frame")
+                                                              << latin1(QTest::currentDataTag())
                                                               << file.path() << latin1("other.png"));
     QCOMPARE(int(line.pictures.size()), 2);
     QCOMPARE(Pictures::nameOf(line.pictures[0]), QFileInfo(file.path()).fileName());
@@ -175,64 +136,6 @@ void tst_HostFrames::writtenFramesAreRead()
     QCOMPARE(int(QFileInfo(former.path()).size()), 6);
 }
 
-void tst_HostFrames::barsHaveTheirColours_data()
-{
-    addFfmpegRows();
-}
-
-void tst_HostFrames::barsHaveTheirColours()
-{
-    QFETCH(QByteArray, filters);
-    QFETCH(QByteArray, output);
-    QFETCH(QString, format);
-    // The bars are defined as Rec 709; over RGB, so that another matrix is really applied.
-    const FrameFile file(ffmpegFrame("smptehdbars=size=1270x720",
-                                     "scale=in_color_matrix=bt709,format=gbrp," + filters, output));
-    QString problem;
-    const QImage picture = VideoFrames::read(file.as(format), &problem);
-    QVERIFY2(!picture.isNull(), qPrintable(problem));
-    // Seven bars of 75 % between two of grey, each an eighth of the width.
-    const QRgb bars[] = {qRgb(191, 191, 191), qRgb(191, 191, 0), qRgb(0, 191, 191), qRgb(0, 191, 0),
-                         qRgb(191, 0, 191),   qRgb(191, 0, 0),   qRgb(0, 0, 191)};
-    for (int i = 0; i < 7; ++i) {
-        const QRgb pixel = picture.pixel(160 + 136 * i + 68, 200);
-        QVERIFY2(difference(pixel, bars[i]) <= 4,
-                 qPrintable(QString::fromLatin1("bar %1: %2").arg(i).arg(pixel, 0, 16)));
-    }
-    const Facts facts = VideoFrames::rangeFacts(file.as(format));
-    QCOMPARE(facts[1].second, latin1(format.startsWith(latin1("v210")) ? "64 to 940" : "16 to 235"));
-    QCOMPARE(facts[2].first, latin1("Luma here"));
-    // The bars go from below black to white.
-    QVERIFY(facts[2].second.section(QLatin1Char(' '), 0, 0).toInt() <=
-            (format[0] == QLatin1Char('v') ? 64 : 16));
-}
-
-void tst_HostFrames::picturesAreThoseOfTheDecoder_data()
-{
-    addFfmpegRows();
-}
-
-void tst_HostFrames::picturesAreThoseOfTheDecoder()
-{
-    QFETCH(QByteArray, filters);
-    QFETCH(QByteArray, output);
-    QFETCH(QString, format);
-    const char* const source = "testsrc2=size=1270x720";
-    const FrameFile file(ffmpegFrame(source, filters, output));
-    const QByteArray rgb = ffmpegFrame(source, "format=rgb24", "-f rawvideo");
-    QString problem;
-    const QImage picture = VideoFrames::read(file.as(format), &problem);
-    QVERIFY2(!picture.isNull(), qPrintable(problem));
-    QCOMPARE(int(rgb.size()), 1270 * 720 * 3);
-    int same = 0;
-    for (int i = 0; i < 1270 * 720; ++i) {
-        const QRgb expected = qRgb(uchar(rgb[3 * i]), uchar(rgb[3 * i + 1]), uchar(rgb[3 * i + 2]));
-        same += difference(picture.pixel(i % 1270, i / 1270), expected) <= 6;
-    }
-    // Halved chroma is another one at the edges of coloured areas.
-    QVERIFY2(same > 1270 * 720 * 9 / 10, qPrintable(QString::number(same)));
-}
-
 void tst_HostFrames::chosenMatrixIsUsed()
 {
     // Red in Rec 709.
@@ -242,6 +145,9 @@ void tst_HostFrames::chosenMatrixIsUsed()
     viewer.show();
     WAIT_FOR(!viewer.picture().isNull());
     QVERIFY(difference(viewer.picture().pixel(0, 0), qRgb(255, 0, 0)) <= 1);
+    const Facts facts = VideoFrames::rangeFacts(FrameAddress::fromString(viewer.picturePath()));
+    QCOMPARE(facts[1].second, latin1("16 to 235"));
+    QCOMPARE(facts[2].second, latin1("63 to 63"));
     FrameInspector inspector(nullptr);
     inspector.setPicture(viewer.picturePath());
     QSignalSpy changed(&inspector, SIGNAL(frameChanged(QString, QString)));
@@ -258,6 +164,64 @@ void tst_HostFrames::chosenMatrixIsUsed()
     QCOMPARE(viewer.view()->zoom(), 4.0);
     inspector.setPicture(latin1("/some/picture.png"));
     QVERIFY(!inspector.isShownWhenDisclosed());
+}
+
+void tst_HostFrames::fileSuggestsItsFormat()
+{
+    const auto formatOf = [](const char* suffix, int bytes) {
+        const FrameFile file(QByteArray(bytes, 0), latin1(suffix));
+        FrameDialog dialog(QString(), nullptr);
+        dialog.findChild<UI::FilenameField*>()->setFilename(file.path());
+        return dialog.address().path == file.path() ? dialog.address().format : QString();
+    };
+    // With padded rows.
+    QCOMPARE(formatOf("v210", 3456 * 720), latin1("V210:1280x720:Rec 709"));
+    QCOMPARE(formatOf("uyvy", 720 * 576 * 2), latin1("CbYCrY8:720x576:Rec 601"));
+    QCOMPARE(formatOf("raw", 1920 * 1080 * 2), latin1("CbYCrY8:1920x1080:Rec 709"));
+    QCOMPARE(formatOf("aycbcr16", 8), latin1("AYCbCr16:1920x1080:Rec 709"));
+}
+
+void tst_HostFrames::problemIsToldUntilItIsMended()
+{
+    const FrameFile file(QByteArray(64, 0), latin1("uyvy"));
+    FrameDialog dialog(QString(), nullptr);
+    QPushButton* const open = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
+    QCOMPARE(open->toolTip(), latin1("Choose a file."));
+    dialog.findChild<UI::FilenameField*>()->setFilename(file.path());
+    QVERIFY(!open->isEnabled() && open->toolTip().startsWith(latin1("The file has 64 bytes")));
+    const QList<QSpinBox*> sides = dialog.findChildren<QSpinBox*>();
+    sides[0]->setValue(8);
+    sides[1]->setValue(4);
+    QVERIFY(open->isEnabled() && open->toolTip().isEmpty());
+    // Another layout, another size; the matrix is the user's choice from now on.
+    QComboBox* const layout = dialog.findChildren<QComboBox*>()[0];
+    QComboBox* const matrix = dialog.findChildren<QComboBox*>()[1];
+    QTest::keyClicks(layout, latin1("AYCbCr8"));
+    QVERIFY(!open->isEnabled());
+    sides[1]->setValue(2);
+    QVERIFY(open->isEnabled());
+    matrix->setCurrentIndex(1);
+    QCOMPARE(dialog.address().format, latin1("AYCbCr8:8x2:Rec 709"));
+}
+
+void tst_HostFrames::savedFileHasTheSuffixOfItsLayout()
+{
+    const FrameFile file("a", latin1("aycbcr16"));
+    const QFileInfo info(file.path());
+    FrameSaveDialog dialog(info.path(), &frameLayouts()[6], nullptr);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.selectFile(info.completeBaseName());
+    QCOMPARE(QFileInfo(dialog.selectedFiles().first()).fileName(), info.completeBaseName() + latin1(".v210"));
+    dialog.show();
+    QTest::keyClicks(dialog.findChild<QComboBox*>(latin1("fileTypeCombo")), latin1("AYCbCr16"));
+    QCOMPARE(dialog.frameLayout().name(), latin1("AYCbCr16"));
+    // Another file is not replaced unasked.
+    dialog.findChild<QLineEdit*>(latin1("fileNameEdit"))->setText(info.completeBaseName());
+    MessageBoxCloser boxes;
+    QMetaObject::invokeMethod(&dialog, "accept");
+    QCOMPARE(boxes.count(), 1);
+    QVERIFY(boxes.lastText().contains(info.fileName()));
+    QVERIFY(dialog.isVisible());
 }
 
 QTEST_MAIN(tst_HostFrames)

@@ -1,158 +1,113 @@
+#include <examples/host/ArrangementFolder.h>
 #include <examples/host/Arrangements.h>
+#include <examples/host/LayoutHistory.h>
 #include <examples/host/LayoutStore.h>
 
+#include <tests/support/Desk.h>
 #include <tests/support/MessageBoxCloser.h>
-#include <tests/support/Waiting.h>
 
-#include <ui/docking/Dock.h>
-#include <ui/docking/DockMainWindow.h>
 #include <ui/docking/LayoutInspector.h>
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
-#include <QPointer>
-#include <QtTest>
 
+using namespace NorvaneTest;
 using namespace Norvane;
 using namespace Norvane::Host;
-
-Q_DECLARE_METATYPE(Norvane::Host::Arrangement)
 
 class tst_LayoutStore : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
     void cleanup();
-    void cleanupTestCase();
-    void arrangementsAreFlawless_data();
     void arrangementsAreFlawless();
-    void problemsAreTold_data();
-    void problemsAreTold();
     void fileIsReplacedWhole();
-    void refusedFileIsLeftAlone();
-    void missingFileIsTold();
     void closedNotesComeBack();
     void failedRestoreLeavesNothingBehind();
+    void anyTextNamesArrangement();
+    void arrangementsAreManaged();
+    void problemsOfArrangementsAreTold();
+    void stepsAreWalked();
+    void samePlacesAreNoStep_data();
+    void samePlacesAreNoStep();
 
 private:
-    QString m_folder;
-    QString m_path;
+    // Made by the first file in it.
+    const QString m_folder =
+        QDir::temp().filePath(latin1("tst_LayoutStore-%1/a b").arg(QCoreApplication::applicationPid()));
+    const QString m_path = QDir(m_folder).filePath(latin1("a.layout"));
+    QString m_problem;
 };
 
-void tst_LayoutStore::initTestCase()
+namespace {
+
+/// A pane with a panel. \a attributes are the pane's, \a state is the panel's.
+QByteArray layout(const QByteArray& width, const QByteArray& attributes = QByteArray(),
+                  const QByteArray& state = QByteArray())
 {
-    m_folder = QDir::temp().filePath(
-        QString::fromLatin1("tst_LayoutStore-%1").arg(QCoreApplication::applicationPid()));
-    QVERIFY(QDir().mkpath(m_folder));
-    m_path = QDir(m_folder).filePath(QLatin1String("a.layout"));
+    return "<layout version=\"1.0\"><window x=\"0\" w=\"" + width + "\"><splitter><dock id=\"d\"" +
+           attributes + "><page id=\"Viewer.1\" layout=\"" + state +
+           "\"/></dock></splitter></window></layout>";
 }
+
+} // namespace
 
 void tst_LayoutStore::cleanup()
 {
     const QStringList left = QDir(m_folder).entryList(QDir::Files);
     for (const QString& name : left)
         QVERIFY(QFile::remove(QDir(m_folder).filePath(name)));
-}
-
-void tst_LayoutStore::cleanupTestCase()
-{
-    QVERIFY(QDir().rmdir(m_folder));
-}
-
-void tst_LayoutStore::arrangementsAreFlawless_data()
-{
-    QTest::addColumn<Arrangement>("arrangement");
-    QTest::addColumn<int>("viewerCount");
-    const char* const names[] = {"single", "side by side", "review"};
-    const int viewerCounts[] = {0, 1, 2, 7};
-    for (int i = kSingleArrangement; i <= kReviewArrangement; ++i) {
-        for (const int viewerCount : viewerCounts) {
-            const QByteArray row = QByteArray(names[i]) + ", viewers: " + QByteArray::number(viewerCount);
-            QTest::newRow(row.constData()) << Arrangement(i) << viewerCount;
-        }
-    }
+    QDir::temp().rmpath(m_folder);
+    m_problem.clear();
 }
 
 void tst_LayoutStore::arrangementsAreFlawless()
 {
-    QFETCH(Arrangement, arrangement);
-    QFETCH(int, viewerCount);
-    ArrangedPanels panels;
-    panels.pictures = QStringList(QLatin1String("Pictures.1"));
-    panels.notes = QStringList(QLatin1String("Notes.1"));
-    for (int i = 1; i <= viewerCount; ++i)
-        panels.viewers.append(QString::fromLatin1("Viewer.%1").arg(i));
-    MainWindowPlace place;
-    place.frame = QRect(10, 20, 1180, 760);
-    QByteArray layout = arrangementDocument(arrangement, panels, place);
-    QBuffer buffer(&layout);
-    buffer.open(QIODevice::ReadOnly);
-    const UI::LayoutInspector inspector(&buffer);
-    QVERIFY(inspector.isRestorable());
-    QVERIFY2(inspector.problems().isEmpty(), layout.constData());
-    QStringList found = inspector.pageIds();
-    QStringList wanted = panels.viewers + panels.pictures + panels.notes;
-    found.sort();
-    wanted.sort();
-    QCOMPARE(found, wanted);
-}
-
-void tst_LayoutStore::problemsAreTold_data()
-{
-    QTest::addColumn<QByteArray>("layout");
-    QTest::addColumn<bool>("isRestorable");
-    QTest::newRow("empty") << QByteArray() << false;
-    QTest::newRow("no XML") << QByteArray("hello") << false;
-    QTest::newRow("another version") << QByteArray("<layout version=\"1.1\"/>") << false;
-    QTest::newRow("cut short") << QByteArray("<layout version=\"1.0\"><window>") << false;
-    QTest::newRow("flawed only") << QByteArray("<layout version=\"1.0\"><window x=\"a\"/></layout>") << true;
-}
-
-void tst_LayoutStore::problemsAreTold()
-{
-    QFETCH(QByteArray, layout);
-    QFETCH(bool, isRestorable);
-    QCOMPARE(LayoutStore::problemsOf(layout).isEmpty(), isRestorable);
+    for (int arrangement = kSingleArrangement; arrangement <= kReviewArrangement; ++arrangement) {
+        for (const int viewerCount : {0, 1, 2, 7}) {
+            ArrangedPanels panels;
+            panels.pictures = QStringList(latin1("Pictures.1"));
+            panels.notes = QStringList(latin1("Notes.1"));
+            for (int i = 1; i <= viewerCount; ++i)
+                panels.viewers.append(latin1("Viewer.%1").arg(i));
+            MainWindowPlace place;
+            place.frame = QRect(10, 20, 1180, 760);
+            QByteArray layout = arrangementDocument(Arrangement(arrangement), panels, place);
+            QBuffer buffer(&layout);
+            buffer.open(QIODevice::ReadOnly);
+            const UI::LayoutInspector inspector(&buffer);
+            QVERIFY2(inspector.isRestorable() && inspector.problems().isEmpty(), layout.constData());
+            QStringList found = inspector.pageIds();
+            QStringList wanted = panels.viewers + panels.pictures + panels.notes;
+            found.sort();
+            wanted.sort();
+            QCOMPARE(found, wanted);
+        }
+    }
 }
 
 void tst_LayoutStore::fileIsReplacedWhole()
 {
-    QString problem;
-    QVERIFY(LayoutStore::write(m_path, QByteArray(100000, 'a'), &problem));
-    QVERIFY(LayoutStore::write(m_path, "short", &problem));
+    QVERIFY(LayoutStore::write(m_path, QByteArray(100000, 'a'), &m_problem));
+    QVERIFY(LayoutStore::write(m_path, "short", &m_problem));
     QByteArray layout;
-    QVERIFY(LayoutStore::read(m_path, &layout, &problem));
+    QVERIFY(LayoutStore::read(m_path, &layout, &m_problem));
     QCOMPARE(layout, QByteArray("short"));
-    QVERIFY(problem.isEmpty());
-    QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList(QLatin1String("a.layout")));
-}
-
-void tst_LayoutStore::refusedFileIsLeftAlone()
-{
-    QString problem;
+    QVERIFY(m_problem.isEmpty());
+    QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList(latin1("a.layout")));
     // A folder cannot be replaced by a file.
-    QVERIFY(QDir().mkpath(m_path));
-    QVERIFY(!LayoutStore::write(m_path, "text", &problem));
-    QVERIFY(!problem.isEmpty());
+    QVERIFY(QFile::remove(m_path) && QDir().mkpath(m_path));
+    QVERIFY(!LayoutStore::write(m_path, "text", &m_problem));
+    QVERIFY(!m_problem.isEmpty());
     QVERIFY(QDir(m_folder).entryList(QDir::Files).isEmpty());
     QVERIFY(QDir().rmdir(m_path));
-}
-
-void tst_LayoutStore::missingFileIsTold()
-{
-    QByteArray layout;
-    QString problem;
-    QVERIFY(!LayoutStore::read(m_path, &layout, &problem));
-    QVERIFY(!problem.isEmpty());
 }
 
 void tst_LayoutStore::closedNotesComeBack()
 {
     QMap<QString, QString> notes;
-    notes.insert(QLatin1String("Notes.1"), QLatin1String("one, \"two\"\n;three ") + QChar(0x20ac));
-    notes.insert(QLatin1String("Notes.2"), QLatin1String("@x"));
+    notes.insert(latin1("Notes.1"), latin1("one, \"two\"\n;three ") + QChar(0x20ac));
+    notes.insert(latin1("Notes.2"), latin1("@x"));
     QVERIFY(LayoutStore::writeClosedNotes(m_path, notes));
     QCOMPARE(LayoutStore::readClosedNotes(m_path), notes);
     QVERIFY(LayoutStore::writeClosedNotes(m_path, QMap<QString, QString>()));
@@ -161,39 +116,137 @@ void tst_LayoutStore::closedNotesComeBack()
 
 void tst_LayoutStore::failedRestoreLeavesNothingBehind()
 {
-    QPointer<UI::DockMainWindow> window(new UI::DockMainWindow);
-    UI::Dock* const pane = window->createDock();
-    window->addWidget(pane);
-    QWidget* const panel = new QWidget;
-    panel->setObjectName(QLatin1String("Panel.1"));
-    panel->setAttribute(Qt::WA_DeleteOnClose);
-    pane->addWidget(panel, true, false);
-    window->addNewFloatingDock(nullptr);
-    window->show();
-    // Places and sizes, and which pane has the focus, are for the window manager to say.
-    const auto arrangement = [&] {
-        QString text = QString::fromUtf8(LayoutStore::layoutOf(window));
-        for (int digit = 0; digit < 10; ++digit)
-            text.remove(QString::number(digit));
-        return text.remove(QLatin1Char('-')).remove(QLatin1String(" focus=\"true\""));
-    };
-    const QString before = arrangement();
-    const QByteArray saved = LayoutStore::layoutOf(window);
-    const QPointer<QWidget> oldRoot(window->centralWidget());
-    const QPointer<QWidget> oldFloating(window->floatingWindows().first());
-
+    Desk desk;
+    desk.pane("A B");
+    desk.floatingPane("C");
+    const QString before = desk.trees();
+    const QByteArray saved = LayoutStore::layoutOf(desk.window);
+    const QPointer<QWidget> oldRoot(desk.window->centralWidget());
+    const QPointer<QWidget> oldFloating(desk.window->floatingWindows().first());
     {
-        NorvaneTest::MessageBoxCloser closer;
-        QVERIFY(!LayoutStore::restore(window, "<layout version=\"1.0\"><window>"));
+        MessageBoxCloser closer;
+        QVERIFY(!LayoutStore::restore(desk.window, "<layout version=\"1.0\"><window>"));
         QCOMPARE(closer.count(), 1);
     }
-    QVERIFY(!oldRoot);
-    QVERIFY(!oldFloating);
+    QVERIFY(!oldRoot && !oldFloating);
+    QVERIFY(LayoutStore::restore(desk.window, saved));
+    QCOMPARE(desk.trees(), before);
+}
 
-    QVERIFY(LayoutStore::restore(window, saved));
-    QCOMPARE(arrangement(), before);
-    QVERIFY(window->close());
-    WAIT_FOR(!window);
+void tst_LayoutStore::anyTextNamesArrangement()
+{
+    const QStringList names = QStringList()
+                              << latin1("My two screens") << latin1("../a/b\\c") << latin1(".x")
+                              << latin1("100%25") << latin1("<a>&\"'*?|:;,=[]\n\t") << latin1("a.layout")
+                              << QString::fromUtf8("\xc3\xbc \xe4\xbd\xa0 \xd7\xa9 \xf0\x9f\x98\x80");
+    ArrangementFolder folder(m_folder);
+    for (const QString& name : names)
+        QVERIFY2(folder.write(name, name.toUtf8(), &m_problem), qPrintable(m_problem));
+    QCOMPARE(ArrangementFolder(m_folder).names(), names);
+    for (const QString& name : names) {
+        QByteArray bytes;
+        QVERIFY(folder.read(name, &bytes, &m_problem));
+        QCOMPARE(bytes, name.toUtf8());
+    }
+}
+
+void tst_LayoutStore::arrangementsAreManaged()
+{
+    const QString a = latin1("a");
+    const QString b = latin1("b");
+    const QString c = latin1("c");
+    ArrangementFolder folder(m_folder);
+    QVERIFY(folder.names().isEmpty());
+    for (const QString& name : {c, a, c})
+        QVERIFY(folder.write(name, name.toLatin1(), &m_problem));
+    QCOMPARE(folder.names(), QStringList() << c << a);
+    QVERIFY(folder.rename(c, b, &m_problem));
+    QCOMPARE(folder.names(), QStringList() << b << a);
+    QVERIFY(!folder.contains(c));
+    QByteArray bytes;
+    QVERIFY(folder.read(b, &bytes, &m_problem));
+    QCOMPARE(bytes, QByteArray("c"));
+    QVERIFY(folder.remove(b, &m_problem));
+    QCOMPARE(folder.names(), QStringList(a));
+    QVERIFY(m_problem.isEmpty());
+}
+
+void tst_LayoutStore::problemsOfArrangementsAreTold()
+{
+    const QString a = latin1("a");
+    const QString b = latin1("b");
+    ArrangementFolder folder(m_folder);
+    const auto isTold = [this](bool done) {
+        const bool told = !done && !m_problem.isEmpty();
+        m_problem.clear();
+        return told;
+    };
+    QByteArray bytes;
+    QVERIFY(isTold(folder.read(a, &bytes, &m_problem)));
+    QVERIFY(isTold(folder.remove(a, &m_problem)));
+    QVERIFY(isTold(folder.rename(a, b, &m_problem)));
+    QVERIFY(folder.write(a, "1", &m_problem) && folder.write(b, "2", &m_problem));
+    QVERIFY(isTold(folder.rename(a, b, &m_problem)));
+    QVERIFY(isTold(folder.write(QString(300, QLatin1Char('x')), "3", &m_problem)));
+    QCOMPARE(folder.names(), QStringList() << a << b);
+    QVERIFY(folder.read(b, &bytes, &m_problem));
+    QCOMPARE(bytes, QByteArray("2"));
+}
+
+void tst_LayoutStore::stepsAreWalked()
+{
+    LayoutHistory history(3);
+    QVERIFY(history.undo().isEmpty());
+    // The first one is forgotten.
+    for (const char* width : {"0", "1", "2", "3"})
+        history.record(layout(width));
+    QVERIFY(!history.canRedo());
+    QCOMPARE(history.undo(), layout("2"));
+    QCOMPARE(history.undo(), layout("1"));
+    QVERIFY(!history.canUndo());
+    QVERIFY(history.undo().isEmpty());
+    QCOMPARE(history.redo(), layout("2"));
+    QVERIFY(history.canRedo());
+    history.record(layout("4"));
+    QVERIFY(!history.canRedo());
+    QVERIFY(history.redo().isEmpty());
+    QCOMPARE(history.undo(), layout("2"));
+}
+
+void tst_LayoutStore::samePlacesAreNoStep_data()
+{
+    QTest::addColumn<QByteArray>("changed");
+    QTest::addColumn<bool>("isStep");
+    QTest::addColumn<bool>("isStepWhileSettling");
+    QTest::newRow("the same") << layout("1") << false << false;
+    QTest::newRow("a panel's state") << layout("1", "", "fit|a") << false << false;
+    QTest::newRow("tab in front") << layout("1", " activePageId=\"Viewer.1\" focus=\"true\"") << false
+                                  << false;
+    QTest::newRow("title of a lone panel") << layout("1", " hideTitles=\"1\"") << false << false;
+    QTest::newRow("size") << layout("2") << true << false;
+    QTest::newRow("panel") << layout("1").replace("Viewer.1", "Viewer.2") << true << true;
+    QTest::newRow("splitter") << layout("1").replace("<splitter", "<splitter orientation=\"1\"") << true
+                              << true;
+}
+
+void tst_LayoutStore::samePlacesAreNoStep()
+{
+    QFETCH(QByteArray, changed);
+    LayoutHistory history;
+    LayoutHistory settling;
+    for (LayoutHistory* const each : {&history, &settling}) {
+        each->record(layout("1"));
+        each->record(layout("9"));
+        QCOMPARE(each->undo(), layout("1"));
+    }
+    history.record(changed);
+    QTEST(history.canUndo(), "isStep");
+    QCOMPARE(history.canRedo(), !history.canUndo());
+    settling.settle(changed);
+    QTEST(settling.canUndo(), "isStepWhileSettling");
+    // What is no step is remembered all the same.
+    settling.record(layout("8"));
+    QCOMPARE(settling.undo(), changed);
 }
 
 QTEST_MAIN(tst_LayoutStore)

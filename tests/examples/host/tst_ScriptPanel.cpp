@@ -1,3 +1,4 @@
+#include <examples/host/BackgroundJob.h>
 #include <examples/host/PictureList.h>
 #include <examples/host/ScriptInterpreter.h>
 #include <examples/host/ScriptPanel.h>
@@ -24,7 +25,6 @@ private Q_SLOTS:
     void cleanup();
     void promptAnswers_data();
     void promptAnswers();
-    void examplesRun_data();
     void examplesRun();
     void stopInterruptsScript();
     void threadsAreStopped();
@@ -55,6 +55,7 @@ void tst_ScriptPanel::cleanup()
     panel.reset();
     interpreter.reset();
     pictures.reset();
+    BackgroundJob::waitForAll();
 }
 
 void tst_ScriptPanel::type(const QString& line)
@@ -66,55 +67,37 @@ void tst_ScriptPanel::type(const QString& line)
 
 void tst_ScriptPanel::promptAnswers_data()
 {
-    QTest::addColumn<QStringList>("lines");
     QTest::addColumn<QString>("answer");
-    QTest::newRow("value") << QStringList("6 * 7") << ">>> 6 * 7\n42\n";
-    QTest::newRow("names") << (QStringList() << "a = 6"
-                                             << "a * 7")
-                           << ">>> a * 7\n42\n";
-    QTest::newRow("lines") << (QStringList() << "for i in range(2):"
-                                             << "    print(i)"
-                                             << "")
-                           << "... \n0\n1\n";
-    QTest::newRow("exception") << QStringList("{}['x']") << "KeyError: 'x'";
-    QTest::newRow("syntax") << QStringList("1 +") << "SyntaxError: ";
-    QTest::newRow("exit") << QStringList("raise SystemExit") << "A script cannot end the program.";
-    QTest::newRow("pictures") << (QStringList() << "import norvane"
-                                                << "print(norvane.pictures()[0])")
-                              << QString::fromUtf8("/pictures/L\xc3\xa9o.png\n");
-    QTest::newRow("error stream") << (QStringList() << "import sys"
-                                                    << "_ = sys.stderr.write('wrong\\n')")
-                                  << "wrong\n";
+    const auto row = [](const char* lines, const char* answer) {
+        QTest::newRow(lines) << QString::fromUtf8(answer);
+    };
+    row("a = 6\na * 7", ">>> a * 7\n42\n");
+    row("for i in range(2):\n    print(i)\n", "... \n0\n1\n");
+    row("{}['x']", "KeyError: 'x'");
+    row("1 +", "SyntaxError: ");
+    row("raise SystemExit", "A script cannot end the program.");
+    row("import norvane\nprint(norvane.pictures()[0])", "/pictures/L\xc3\xa9o.png\n");
+    row("import sys\n_ = sys.stderr.write('wrong\\n')", "wrong\n");
 }
 
 void tst_ScriptPanel::promptAnswers()
 {
-    QFETCH(QStringList, lines);
     QFETCH(QString, answer);
-    for (const QString& line : lines)
+    for (const QString& line : QString::fromLatin1(QTest::currentDataTag()).split(QLatin1Char('\n')))
         type(line);
     QVERIFY2(output().contains(answer), qPrintable(output()));
 }
 
-void tst_ScriptPanel::examplesRun_data()
-{
-    QTest::addColumn<int>("example");
-    QTest::addColumn<QStringList>("answers");
-    QTest::newRow("task") << 0 << QStringList("counted to 50");
-    QTest::newRow("pictures") << 1 << QStringList("1 pictures, 0 bytes in files");
-    QTest::newRow("exception") << 2
-                               << (QStringList() << "handled: list index out of range"
-                                                 << "in first_picture"
-                                                 << "IndexError: list index out of range");
-}
-
 void tst_ScriptPanel::examplesRun()
 {
-    QFETCH(int, example);
-    QFETCH(QStringList, answers);
-    panel->findChild<QMenu*>()->actions().at(example)->trigger();
-    for (const QString& answer : answers)
-        QVERIFY2(NorvaneTest::waitUntil([&] { return output().contains(answer); }), qPrintable(output()));
+    const QList<QAction*> examples = panel->findChild<QMenu*>()->actions();
+    const char* const answers[] = {"counted to 50", "1 pictures, 0 bytes in files",
+                                   "IndexError: list index out of range"};
+    for (int i = 0; i < 3; ++i) {
+        examples[i]->trigger();
+        QVERIFY2(NorvaneTest::waitUntil([&] { return output().contains(QLatin1String(answers[i])); }),
+                 qPrintable(output()));
+    }
 }
 
 // From an event of the script's own, as a click is.
@@ -153,17 +136,12 @@ void tst_ScriptPanel::historyIsKept()
     QCOMPARE(panel->layoutState(), QString::fromLatin1("1\n2"));
     panel->setLayoutState("3\n4");
     QLineEdit* const input = panel->findChild<QLineEdit*>();
-    const Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down};
-    QStringList recalled;
-    for (const Qt::Key key : keys) {
+    QString recalled;
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down}) {
         QTest::keyClick(input, key);
-        recalled.append(input->text());
+        recalled += QLatin1Char('|') + input->text();
     }
-    QCOMPARE(recalled, QStringList() << "4"
-                                     << "3"
-                                     << "3"
-                                     << "4"
-                                     << "");
+    QCOMPARE(recalled, QString::fromLatin1("|4|3|3|4|"));
 }
 
 QTEST_MAIN(tst_ScriptPanel)

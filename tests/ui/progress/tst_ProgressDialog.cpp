@@ -20,26 +20,21 @@ namespace {
 using Record = QExplicitlySharedDataPointer<TaskPrivate>;
 
 /// Makes a task as soon as something is shown, as a program may that follows the keyboard focus.
-class TaskMaker : public QObject
-{
-public:
-    explicit TaskMaker(ProgressManager* manager)
-        : m_manager(manager)
+struct TaskMaker : QObject {
+    explicit TaskMaker(ProgressManager* tasksManager)
+        : manager(tasksManager)
     {
     }
 
-    std::unique_ptr<ProgressTask> task;
-
-protected:
     bool eventFilter(QObject*, QEvent* event) override
     {
         if (event->type() == QEvent::Show && !task)
-            task.reset(new ProgressTask(QString(), 10, 0, nullptr, m_manager));
+            task.reset(new ProgressTask(QString(), 10, 0, nullptr, manager));
         return false;
     }
 
-private:
-    ProgressManager* const m_manager;
+    ProgressManager* const manager;
+    std::unique_ptr<ProgressTask> task;
 };
 
 } // namespace
@@ -48,12 +43,12 @@ class tst_ProgressDialog : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
-    void init();
+    // The first manager is the one that is asked where windows were.
+    void initTestCase() { static ProgressManager first; }
+    void init() { manager.reset(new DialogProgressManager); }
     void cleanup();
     void appearsAndHides();
-    void disabledTaskDoesNotCount();
-    void modalWhileTaskIs();
+    void modalWhileEnabledTaskIs();
     void hiddenRowsCount();
     void heldBackUntilOld();
     void cancellingReachesSubTasks();
@@ -79,17 +74,6 @@ Record tst_ProgressDialog::addTask(int flags, TaskListener* parent)
     return Record(manager->tasks().last());
 }
 
-void tst_ProgressDialog::initTestCase()
-{
-    // The one that is asked where windows were.
-    static ProgressManager first;
-}
-
-void tst_ProgressDialog::init()
-{
-    manager.reset(new DialogProgressManager);
-}
-
 void tst_ProgressDialog::cleanup()
 {
     tasks.clear();
@@ -112,22 +96,14 @@ void tst_ProgressDialog::appearsAndHides()
     WAIT_FOR(!row);
 }
 
-void tst_ProgressDialog::disabledTaskDoesNotCount()
+void tst_ProgressDialog::modalWhileEnabledTaskIs()
 {
     const Record record = addTask(ProgressTask::kDisable | ProgressTask::kModal);
     QVERIFY(record->widget && dialog()->isHidden());
     tasks[0]->setFlag(ProgressTask::kDisable, false);
-    QVERIFY(dialog()->isVisible() && dialog()->isModal());
-}
-
-void tst_ProgressDialog::modalWhileTaskIs()
-{
-    addTask(0);
-    QVERIFY(!dialog()->isModal());
-    addTask(ProgressTask::kModal);
-    QVERIFY(dialog()->isVisible() && dialog()->isModal());
     QCOMPARE(QApplication::activeModalWidget(), dialog());
-    tasks.pop_back();
+    addTask(0);
+    tasks.erase(tasks.begin());
     QVERIFY(dialog()->isVisible() && !dialog()->isModal());
     QVERIFY(!QApplication::activeModalWidget());
 }

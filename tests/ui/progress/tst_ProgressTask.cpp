@@ -5,7 +5,6 @@
 #include <tests/support/GuilessMain.h>
 #include <tests/support/TaskListener.h>
 
-#include <QMutexLocker>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -33,14 +32,10 @@ class tst_ProgressTask : public QObject
 private Q_SLOTS:
     void worksWithoutManager();
     void firstManagerIsInstance();
-    void everyChangeWakesOnce_data();
     void everyChangeWakesOnce();
-    void failingWaitsForNobody();
-    void endOfTask_data();
     void endOfTask();
     void copiesShareTask();
     void assignmentForgetsFormerOwner();
-    void subTaskOutlivesParent();
     void progressCallback();
     void endWaitsForCallback();
     void callbackMayEndTask();
@@ -69,17 +64,8 @@ void tst_ProgressTask::firstManagerIsInstance()
     QCOMPARE(other.tasksCount(), 1);
 }
 
-void tst_ProgressTask::everyChangeWakesOnce_data()
-{
-    QTest::addColumn<int>("change");
-    const char* const names[] = {"progress", "maximum", "cancelled", "flag", "message", "error", "wakeUp"};
-    for (int change = 0; change < 7; ++change)
-        QTest::newRow(names[change]) << change;
-}
-
 void tst_ProgressTask::everyChangeWakesOnce()
 {
-    QFETCH(int, change);
     ProgressManager manager;
     ProgressTask task(QString(), 10, 0, nullptr, &manager);
     const std::function<void()> changes[] = {[&] { task.setProgress(1); },
@@ -89,52 +75,36 @@ void tst_ProgressTask::everyChangeWakesOnce()
                                              [&] { task.setMessage(QString()); },
                                              [&] { task.setErrorState(QString()); },
                                              [&] { manager.wakeUp(); }};
-    const unsigned before = manager.wakeCount();
-    QSignalSpy wakes(&manager, SIGNAL(wake()));
-    changes[change]();
-    QCOMPARE(wakes.count(), 1);
-    changes[change]();
-    QCOMPARE(wakes.count(), 2);
-    QCOMPARE(manager.wakeCount(), before + 2);
-}
-
-void tst_ProgressTask::failingWaitsForNobody()
-{
-    ProgressManager manager;
-    ProgressTask task(QString(), 10, ProgressTask::kModal, nullptr, &manager);
-    const auto record = lastRecord(manager);
-    const QMutexLocker held(manager.lock());
-    task.setErrorState(QString::fromLatin1("no room"));
-    QCOMPARE(record->message(), QString::fromLatin1("no room"));
-    QCOMPARE(int(record->flags), 0x88008 | 32);
-    QVERIFY(record->error);
-}
-
-void tst_ProgressTask::endOfTask_data()
-{
-    QTest::addColumn<int>("flags");
-    QTest::addColumn<bool>("fails");
-    QTest::addColumn<bool>("finished");
-    QTest::newRow("goes") << 0 << false << true;
-    QTest::newRow("is kept") << int(ProgressTask::kKeepWhenFinished) << false << false;
-    QTest::newRow("failed") << 0 << true << false;
+    for (const auto& change : changes) {
+        const unsigned before = manager.wakeCount();
+        QSignalSpy wakes(&manager, SIGNAL(wake()));
+        change();
+        change();
+        QCOMPARE(wakes.count(), 2);
+        QCOMPARE(manager.wakeCount(), before + 2);
+    }
 }
 
 void tst_ProgressTask::endOfTask()
 {
-    QFETCH(int, flags);
-    QFETCH(bool, fails);
-    ProgressManager manager;
-    std::unique_ptr<ProgressTask> task(new ProgressTask(QString(), 10, flags, nullptr, &manager));
-    if (fails)
-        task->setErrorState(QString());
-    const auto record = lastRecord(manager);
-    QSignalSpy wakes(&manager, SIGNAL(wake()));
-    task.reset();
-    QVERIFY(!record->owner);
-    QTEST(bool(record->finished), "finished");
-    QCOMPARE(wakes.count(), 1);
-    QCOMPARE(manager.tasksCount(), 1);
+    const struct {
+        int flags;
+        bool fails;
+        bool isFinished;
+    } cases[] = {{0, false, true}, {ProgressTask::kKeepWhenFinished, false, false}, {0, true, false}};
+    for (const auto& each : cases) {
+        ProgressManager manager;
+        std::unique_ptr<ProgressTask> task(new ProgressTask(QString(), 10, each.flags, nullptr, &manager));
+        if (each.fails)
+            task->setErrorState(QString());
+        const auto record = lastRecord(manager);
+        QSignalSpy wakes(&manager, SIGNAL(wake()));
+        task.reset();
+        QVERIFY(!record->owner);
+        QCOMPARE(bool(record->finished), each.isFinished);
+        QCOMPARE(wakes.count(), 1);
+        QCOMPARE(manager.tasksCount(), 1);
+    }
 }
 
 void tst_ProgressTask::copiesShareTask()
@@ -166,17 +136,6 @@ void tst_ProgressTask::assignmentForgetsFormerOwner()
     QVERIFY(record->owner);
     task = other;
     QVERIFY(!record->owner && !record->finished);
-}
-
-void tst_ProgressTask::subTaskOutlivesParent()
-{
-    ProgressManager manager;
-    std::unique_ptr<ProgressTask> parent(new ProgressTask(QString(), 10, 0, nullptr, &manager));
-    const ProgressTask child(QString(), 10, 0, parent.get(), &manager);
-    parent->setCancelled(true);
-    parent.reset();
-    manager.takeTask(0);
-    QVERIFY(lastRecord(manager)->parent->cancelled);
 }
 
 void tst_ProgressTask::progressCallback()

@@ -1,6 +1,8 @@
 #include <ui/progress/ProgressManager.h>
 #include <ui/progress/ProgressWidget.h>
+#include <ui/progress/RowGeometry.h>
 #include <ui/progress/TaskPrivate.h>
+#include <ui/progress/TimeToGo.h>
 #include <ui/toolkit/Painting.h>
 
 #include <tests/support/TaskListener.h>
@@ -10,6 +12,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include <climits>
 #include <memory>
 
 using namespace Norvane::UI;
@@ -68,15 +71,99 @@ class tst_ProgressWidget : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void parts_data();
+    void parts();
+    void timeToGoIsEstimated();
+    void timeToGoIsTold();
+    void stateIsTold();
     void refreshShowsTask();
     void pausesAndResumes();
-    void pausesNobody();
     void cancels();
-    void failedTaskIsCleared_data();
     void failedTaskIsCleared();
     void outlivesTask();
     void ownerMayDeleteRow();
 };
+
+void tst_ProgressWidget::parts_data()
+{
+    QTest::addColumn<QSize>("cancel");
+    QTest::addColumn<QSize>("pause");
+    QTest::addColumn<QRect>("cancelRect");
+    QTest::addColumn<QRect>("pauseRect");
+    QTest::addColumn<int>("barLeft");
+    QTest::addColumn<int>("textRight");
+    const QSize none;
+    const QRect nowhere;
+    QTest::newRow("no buttons") << none << none << nowhere << nowhere << 305 << 306;
+    QTest::newRow("Cancel") << QSize(80, 24) << none << QRect(415, 6, 80, 24) << nowhere << 300 << 302;
+    QTest::newRow("Pause") << none << QSize(90, 22) << nowhere << QRect(405, 6, 90, 22) << 290 << 292;
+    QTest::newRow("both") << QSize(80, 24) << QSize(90, 22) << QRect(415, 6, 80, 24) << QRect(405, 35, 90, 22)
+                          << 290 << 302;
+}
+
+void tst_ProgressWidget::parts()
+{
+    QFETCH(QSize, cancel);
+    QFETCH(QSize, pause);
+    QFETCH(int, barLeft);
+    QFETCH(int, textRight);
+    const RowParts sizes = {cancel, pause, QSize(100, 20)};
+    const RowGeometry geometry = layOutRow(500, sizes);
+    QTEST(geometry.cancelButton, "cancelRect");
+    QTEST(geometry.pauseButton, "pauseRect");
+    QCOMPARE(geometry.progressBar, QRect(barLeft, 6, 100, 20));
+    const QRect row(0, 0, 500, 80);
+    QCOMPARE(rowTextArea(row, sizes, false), QRect(QPoint(8, 6), QPoint(textRight, 72)));
+    QCOMPARE(rowTextArea(row, sizes, true), QRect(QPoint(32, 6), QPoint(textRight, 72)));
+}
+
+void tst_ProgressWidget::timeToGoIsEstimated()
+{
+    QCOMPARE(secondsToGo(10, 5, 10), 10);
+    QCOMPARE(secondsToGo(1, 3, 4), 0);
+    // More than all is done.
+    QCOMPARE(secondsToGo(4, 10, 5), -1);
+    QCOMPARE(secondsToGo(2, 10, 5), 0);
+    // Past midnight.
+    QCOMPARE(secondsToGo(-86000, 5, 10), -85999);
+    // No int holds the seconds, nor the difference.
+    QCOMPARE(secondsToGo(86399, 1, INT_MAX), -1);
+    QCOMPARE(secondsToGo(1, 1, INT_MIN), -1);
+}
+
+void tst_ProgressWidget::timeToGoIsTold()
+{
+    const struct {
+        int seconds;
+        const char* text;
+    } rows[] = {{-1, "?"},
+                {0, "0 seconds."},
+                {60, "1 minute 0 seconds."},
+                {179, "2 minutes 59 seconds."},
+                {180, "3 minutes."},
+                {3599, "59 minutes."},
+                {3600, "1 hour 0 minutes."},
+                {3660, "1 hour 1 minute."},
+                {7260, "2 hours 1 minute."}};
+    for (const auto& row : rows)
+        QCOMPARE(timeToGoText(row.seconds), QString::fromLatin1("Time to go: ") + QLatin1String(row.text));
+}
+
+void tst_ProgressWidget::stateIsTold()
+{
+    const auto textOf = [](int progress, bool isCancelled, bool hasFailed) {
+        TaskPrivate task(nullptr, QString(), 10, 0, nullptr);
+        task.progress = progress;
+        task.cancelled = isCancelled;
+        task.error = hasFailed;
+        return timeToGoText(task);
+    };
+    QCOMPARE(textOf(-1, false, false), QString::fromLatin1("Time to go: Awaiting Task"));
+    QCOMPARE(textOf(0, false, false), QString::fromLatin1("Time to go: Calculating"));
+    QCOMPARE(textOf(10, false, false), QString::fromLatin1("Time to go: 0 seconds."));
+    QCOMPARE(textOf(-1, true, false), QString::fromLatin1("Cancelling"));
+    QCOMPARE(textOf(10, true, true), QString());
+}
 
 void tst_ProgressWidget::refreshShowsTask()
 {
@@ -101,22 +188,16 @@ void tst_ProgressWidget::refreshShowsTask()
 
 void tst_ProgressWidget::pausesAndResumes()
 {
-    const Scene scene;
+    Scene scene;
     scene.button("Pause")->click();
     QVERIFY(scene.task->isPaused());
     scene.button("Resume ")->click();
     QVERIFY(!scene.task->isPaused());
     QVERIFY(scene.button("Pause "));
     QCOMPARE(scene.task->told, QString::fromLatin1("pr"));
-}
-
-void tst_ProgressWidget::pausesNobody()
-{
-    Scene scene;
     scene.task.reset();
-    scene.button("Pause")->click();
-    QVERIFY(!scene.record->paused);
-    QVERIFY(scene.button("Pause"));
+    scene.button("Pause ")->click();
+    QVERIFY(!scene.record->paused && scene.button("Pause "));
 }
 
 void tst_ProgressWidget::cancels()
@@ -133,19 +214,11 @@ void tst_ProgressWidget::cancels()
     QVERIFY(scene.button("Cancel")->isEnabled());
 }
 
-void tst_ProgressWidget::failedTaskIsCleared_data()
-{
-    QTest::addColumn<bool>("cancelled");
-    QTest::newRow("failed") << false;
-    QTest::newRow("cancelled, then failed") << true;
-}
-
 void tst_ProgressWidget::failedTaskIsCleared()
 {
-    QFETCH(bool, cancelled);
     Scene scene;
-    if (cancelled)
-        scene.button("Cancel")->click();
+    // A failure is more than that.
+    scene.button("Cancel")->click();
     QVERIFY(!hasRed(scene.picture()));
     scene.task->setErrorState(QString::fromLatin1("WWWWWW"));
     scene.row->refresh();
