@@ -16,6 +16,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -33,6 +34,8 @@ private Q_SLOTS:
     void wrongFramesAreExplained();
     void writtenFramesAreRead_data();
     void writtenFramesAreRead();
+    void frameOfAnotherProgramLooksRight_data();
+    void frameOfAnotherProgramLooksRight();
     void chosenMatrixIsUsed();
     void fileSuggestsItsFormat();
     void problemIsToldUntilItIsMended();
@@ -61,6 +64,16 @@ public:
 private:
     QTemporaryFile m_file;
 };
+
+/// One frame of ffmpeg's test pattern \a source, made with \a options; empty if that fails.
+QByteArray ffmpegFrame(const QByteArray& source, const QByteArray& options)
+{
+    const QByteArray arguments =
+        "-v error -f lavfi -i " + source + "=size=1270x720 -vf " + options + " -frames:v 1 -f rawvideo -";
+    QProcess ffmpeg;
+    ffmpeg.start(latin1("ffmpeg"), QString::fromLatin1(arguments).split(QLatin1Char(' ')));
+    return ffmpeg.waitForFinished() && ffmpeg.exitCode() == 0 ? ffmpeg.readAllStandardOutput() : QByteArray();
+}
 
 int difference(QRgb one, QRgb other)
 {
@@ -134,6 +147,44 @@ void tst_HostFrames::writtenFramesAreRead()
     QVERIFY(
         !VideoFrames::write(picture, format, former.path(), &problem, [](qint64, qint64) { return false; }));
     QCOMPARE(int(QFileInfo(former.path()).size()), 6);
+}
+
+void tst_HostFrames::frameOfAnotherProgramLooksRight_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<QByteArray>("coding");
+    QTest::addColumn<QString>("layout");
+    for (const char* const source : {"smptehdbars", "testsrc2"}) {
+        const auto row = [source](const char* layout, const char* coding) {
+            QTest::newRow((QByteArray(source) + ", " + layout).constData())
+                << QByteArray(source) << QByteArray(coding) << latin1(layout);
+        };
+        row("v210", "bt709,format=yuv422p10 -c:v v210");
+        row("CbYCrY8", "bt709,format=uyvy422");
+        // Whose usual matrix is one for Rec 601.
+        row("YCbYCr8", "bt601,format=yuyv422");
+    }
+}
+
+// 1270 pixels are neither whole groups of v210 nor is a row of them without padding.
+void tst_HostFrames::frameOfAnotherProgramLooksRight()
+{
+    QFETCH(QByteArray, source);
+    QFETCH(QByteArray, coding);
+    QFETCH(QString, layout);
+    const FrameFile file(ffmpegFrame(source, "scale=1270:720:out_color_matrix=" + coding));
+    const QByteArray rgb = ffmpegFrame(source, "format=rgb24");
+    QString problem;
+    const QImage picture = VideoFrames::read(file.as(layout + latin1(":1270x720")), &problem);
+    QVERIFY2(!picture.isNull(), qPrintable(problem));
+    QCOMPARE(int(rgb.size()), 1270 * 720 * 3);
+    int same = 0;
+    for (int i = 0; i < 1270 * 720; ++i) {
+        const QRgb expected = qRgb(uchar(rgb[3 * i]), uchar(rgb[3 * i + 1]), uchar(rgb[3 * i + 2]));
+        same += difference(picture.pixel(i % 1270, i / 1270), expected) <= 6;
+    }
+    // Halved chroma is another one at the edges of coloured areas.
+    QVERIFY2(same > 1270 * 720 * 9 / 10, qPrintable(QString::number(same)));
 }
 
 void tst_HostFrames::chosenMatrixIsUsed()
