@@ -39,7 +39,9 @@ Dock::Dock(DockMainWindow* controller, DockWindow* parent)
 Dock::~Dock()
 {
     DockDrag::shared().paneDies(this);
-    const QList<QPointer<QWidget>> lost = d->releaseAll();
+    d->dying = true;
+    // Also those whose loss was still to be reported when the host ended the pane.
+    const QList<QPointer<QWidget>> lost = d->releaseAll() + d->reported;
     for (const QPointer<QWidget>& panel : lost) {
         if (panel)
             d->reportRemoved(panel);
@@ -47,8 +49,6 @@ Dock::~Dock()
     if (d->controller)
         d->controller->unregisterPane(this);
     d->controller = nullptr;
-    // What hosts that heard of the losses have put in.
-    d->releaseAll();
     d->stack->disconnect(this);
     d->tabBar->disconnect(this);
     // These call back: they go while this is still a pane.

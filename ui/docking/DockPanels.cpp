@@ -27,6 +27,8 @@ QIcon tabIcon(const QWidget* panel)
 
 int Dock::Private::adopt(int index, QWidget* widget)
 {
+    if (dying)
+        return -1;
     if (stack->indexOf(widget) >= 0)
         return reorder(index, widget);
     Dock* const holder = dockForWidget(widget->parentWidget());

@@ -29,7 +29,7 @@ struct Dock::Private {
     // then tells of another current tab.
 
     /// Puts \a widget into stack and tab bar, taking it from where it was; returns its index, -1 if the host
-    /// took it.
+    /// took it or the pane is about to go.
     int adopt(int index, QWidget* widget);
     int reorder(int index, QWidget* widget);
     void addTab(int index, QWidget* page, const QWidget* titled);
@@ -89,6 +89,8 @@ struct Dock::Private {
     QWidget* leaving = nullptr;
     /// The current tab has changed in silence.
     bool unsettled = false;
+    /// The pane is being destroyed: it takes nothing any more.
+    bool dying = false;
 };
 
 }} // namespace Norvane::UI

@@ -69,7 +69,6 @@ private Q_SLOTS:
     void panMovesWithMouse();
     void boxFillsWidgetAndClickResets();
     void zoomIsLimited();
-    void disabledZoomDoesNothing();
 };
 
 void tst_ColorWheelZoom::wheelZoomsAroundMouse_data()
@@ -176,19 +175,6 @@ void tst_ColorWheelZoom::zoomIsLimited()
     wheel.box_zoom(1, 1, 1, 1);
     QVERIFY(isNear(zoomOf(wheel), 6));
     wheel.zoom(0, 0, 0);
-    QVERIFY(isNear(zoomOf(wheel), 1));
-}
-
-void tst_ColorWheelZoom::disabledZoomDoesNothing()
-{
-    Wheel wheel;
-    QVERIFY(wheel.getZoomEnabled());
-    wheel.setZoomEnabled(false);
-    wheel.zoom(2, 0, 0);
-    wheel.box_zoom(-10, -10, 10, 10);
-    QWheelEvent event = wheelTurn(&wheel, QPoint(100, 100), 120);
-    QApplication::sendEvent(&wheel, &event);
-    QVERIFY(!event.isAccepted());
     QVERIFY(isNear(zoomOf(wheel), 1));
 }
 

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void forgottenWindowsDieWithTheMainWindow();
     void paneDiesWhileItsMenuButtonIsHeld();
     void windowsCloseWhileALayoutIsRestored();
+    void dyingPaneTakesNothing();
 };
 
 void tst_Lifetimes::panesOutliveTheMainWindow()
@@ -138,6 +139,19 @@ void tst_Lifetimes::windowsCloseWhileALayoutIsRestored()
     QVERIFY(desk.restore(desk.save()));
     QVERIFY(!desk.toClose);
     QCOMPARE(desk.trees(), latin1("V() + V(*A)"));
+}
+
+// A host that hears of a loss puts another panel where it hears from.
+void tst_Lifetimes::dyingPaneTakesNothing()
+{
+    DockScene scene;
+    scene.ledger.whenReported = [&scene](DockLedger::Report report, Dock* pane, QWidget*) {
+        if (report == DockLedger::kRemoved)
+            pane->addWidget(scene.find("A"), true, false);
+    };
+    delete scene.right;
+    QCOMPARE(scene.problems(), QString());
+    QCOMPARE(tabs(scene.left), latin1("A *B C"));
 }
 
 QTEST_MAIN(tst_Lifetimes)

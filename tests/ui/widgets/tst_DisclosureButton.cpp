@@ -20,7 +20,6 @@ private Q_SLOTS:
     void addedWidgetIsShownOrHidden();
     void nestOpensTheSameAtAnyAddress_data();
     void nestOpensTheSameAtAnyAddress();
-    void widgetInTwoGroups();
     void removedWidgetIsLeftAlone();
 };
 
@@ -149,30 +148,6 @@ void tst_DisclosureButton::nestOpensTheSameAtAnyAddress()
     click(outer);
     // Every button of the shared section is checked, though one is not to be seen.
     QCOMPARE(visibleOf(all), QString::fromLatin1("1001"));
-}
-
-// A plain widget is as the button updated last wants it, a section is shown if both are checked.
-void tst_DisclosureButton::widgetInTwoGroups()
-{
-    QWidget form;
-    Button first(&form);
-    Button second(&form);
-    QWidget plain(&form);
-    Section section(&form);
-    form.show();
-    for (Button* const button : {&first, &second}) {
-        button->addWidget(&plain);
-        button->addWidget(&section);
-    }
-    for (int state = 0; state < 4; ++state) {
-        first.setChecked(state & 1);
-        second.setChecked(state & 2);
-        first.showOrHideWidgets();
-        second.showOrHideWidgets();
-        QCOMPARE(plain.isVisible(), second.isChecked());
-        QCOMPARE(section.isVisible(), state == 3);
-        QCOMPARE(section.isDisclosed(), state == 3);
-    }
 }
 
 void tst_DisclosureButton::removedWidgetIsLeftAlone()
