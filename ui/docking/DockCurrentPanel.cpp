@@ -25,8 +25,17 @@ void Dock::showTab(int index)
 {
     d->unsettled = false;
     if (index != d->stack->currentIndex()) {
+        const QPointer<Dock> self(this);
+        const int chosen = d->tabBar->currentIndex();
         d->previousTab = d->stack->currentIndex();
+        // This moves the focus, of which hosts hear: the tabs may be others by the time the stack goes on.
         d->stack->setCurrentIndex(index);
+        if (!self)
+            return;
+        if (d->tabBar->currentIndex() != chosen) {
+            showTab(d->tabBar->currentIndex());
+            return;
+        }
     }
     QWidget* const panel = currentWidget();
     setFocusProxy(panel);

@@ -74,6 +74,7 @@ bool DockDrag::begin(DockTabBar* bar, Dock* source, int index, const QPoint& gra
     bar->grabMouse();
     qApp->installEventFilter(bar);
 
+    const QPointer<Dock> pane(source);
     // No title rule here: a title that hides would take the grabbing tab bar with it.
     source->d->release(panel);
     if (m_panel && m_source)
@@ -81,13 +82,15 @@ bool DockDrag::begin(DockTabBar* bar, Dock* source, int index, const QPoint& gra
     // A host that hears of the loss may end the drag or take the panel for itself.
     if (!isRunning() || !m_source || !m_panel || panel->parentWidget()) {
         stop();
+        if (pane)
+            pane->d->settle();
         return true;
     }
     panel->move(topLeft);
     panel->setWindowFlags(kFlyingFlags);
     panel->setWindowOpacity(kFlyingOpacity);
     panel->show();
-    if (!m_source)
+    if (!pane)
         return true;
     // An empty tab bar stays as it is: it must not lose the mouse.
     if (source->count() > 0)
