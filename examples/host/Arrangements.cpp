@@ -107,8 +107,11 @@ void ArrangementWriter::writeSideBySide()
     beginSplitter(Qt::Horizontal);
     writeSplit(width() / 2, true);
     writePane(QLatin1String("pane.left"), left);
-    writeSplit(width() / 2, true);
-    writePane(QLatin1String("pane.right"), right);
+    // One viewer alone gets all the room.
+    if (!right.isEmpty()) {
+        writeSplit(width() / 2, true);
+        writePane(QLatin1String("pane.right"), right);
+    }
     end();
     if (!m_panels.notes.isEmpty()) {
         writeSplit(kNotesHeight, false);
