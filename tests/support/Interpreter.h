@@ -40,7 +40,7 @@ public:
     QString run(const char* script)
     {
         const PyGILState_STATE state = PyGILState_Ensure();
-        const QString text = runLocked(script);
+        QString text = runLocked(script);
         PyGILState_Release(state);
         return text;
     }
@@ -64,7 +64,7 @@ public:
     QString takePending()
     {
         const PyGILState_STATE state = PyGILState_Ensure();
-        const QString text = PyErr_Occurred() ? exceptionText() : QString();
+        QString text = PyErr_Occurred() ? exceptionText() : QString();
         PyGILState_Release(state);
         return text;
     }
@@ -107,7 +107,7 @@ private:
         PyErr_Fetch(&type, &value, &traceback);
         PyErr_NormalizeException(&type, &value, &traceback);
         PyObject* const name = PyObject_GetAttrString(type, "__name__");
-        const QString text = textOf(name) + QString::fromLatin1(": ") + textOf(value);
+        QString text = textOf(name) + QString::fromLatin1(": ") + textOf(value);
         Py_XDECREF(name);
         Py_XDECREF(type);
         Py_XDECREF(value);

@@ -22,7 +22,7 @@ public:
     /// What was reported since the last call.
     QString take()
     {
-        const QString all = m_reports.join(latin1(" "));
+        QString all = m_reports.join(latin1(" "));
         m_reports.clear();
         return all;
     }
