@@ -17,7 +17,7 @@ const int kMessageWidth = 420;
 
 QColor backgroundOf(const QPalette& palette)
 {
-    const QColor window = palette.color(QPalette::Window);
+    const QColor& window = palette.color(QPalette::Window);
     return window.lightness() < 128 ? window.darker(150) : window.darker(110);
 }
 
