@@ -16,7 +16,9 @@ namespace {
 /// What a wheel of 200 x 200 pixels shows at a pixel, by a click there: x and y in inner radii.
 QPointF shownAt(ColorWheel& wheel, const QPoint& pixel)
 {
-    Hand(&wheel, pixel);
+    {
+        const Hand click(&wheel, pixel);
+    }
     float hue, saturation, value;
     wheel.getHSV(hue, saturation, value);
     const double angle = hue * 4 * std::acos(0.0);
